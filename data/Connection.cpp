@@ -1,0 +1,47 @@
+#include "data/Connection.h"
+
+#include <QStringList>
+
+using namespace Qt::StringLiterals;
+
+namespace
+{
+
+QString entry(const QString &connectionText, const QString &name)
+{
+    for (const QString &part : connectionText.split(u';')) {
+        if (part.startsWith(name + u'='))
+            return part.mid(name.size() + 1);
+    }
+    return {};
+}
+
+Result notOpen()
+{
+    return {3709, u"The connection is not open."_s};
+}
+
+} // namespace
+
+QString connectionText(const QString &gsDbPath)
+{
+    return u"DSN=MS Access Database;DBQ="_s + gsDbPath + u";PWD=731526;UID=Admin;"_s;
+}
+
+Result Connection::open(const QString &connectionText)
+{
+    m_path = entry(connectionText, u"DBQ"_s);
+    Result result;
+    m_store = Store::open(m_path, result);
+    return result;
+}
+
+Result Connection::execute(const QString &statement)
+{
+    return m_store ? m_store->execute(statement) : notOpen();
+}
+
+Reader Connection::read(const QString &statement, const std::vector<qint64> &values)
+{
+    return m_store ? m_store->read(statement, values) : Reader::failed(notOpen());
+}

@@ -1,0 +1,118 @@
+#include "platform/IniFile.h"
+
+#include "platform/CodePage.h"
+
+#include <QFile>
+#include <QSaveFile>
+#include <QStringConverter>
+
+#define SI_NO_CONVERSION
+#include <SimpleIni.h>
+
+struct IniFile::Content {
+    CSimpleIniA ini{true, false, false};
+};
+
+namespace
+{
+
+/// The library cuts trailing blanks of a value; this private character keeps them in place.
+constexpr QChar keptBlank = QChar(0xE020);
+
+QString protectTrailingBlanks(QString line)
+{
+    for (qsizetype i = line.size() - 1; i >= 0 && line[i] == u' '; --i)
+        line[i] = keptBlank;
+    return line;
+}
+
+QString decoded(const QByteArray &bytes, QStringList &remarks)
+{
+    const auto encoding = QStringConverter::encodingForData(bytes);
+    QStringDecoder decoder(encoding.value_or(QStringConverter::Utf8));
+    QString text = decoder(bytes);
+    if (decoder.hasError()) {
+        remarks << QStringLiteral("not UTF-8, read as windows-1252");
+        return CodePage::decode(bytes);
+    }
+    if (encoding && *encoding != QStringConverter::Utf8)
+        remarks << QStringLiteral("not UTF-8, read as UTF-16");
+    return text;
+}
+
+bool isWellFormed(const QString &line)
+{
+    const QString plain = line.trimmed();
+    if (plain.isEmpty() || plain.startsWith(u';') || plain.startsWith(u'#'))
+        return true;
+    if (plain.startsWith(u'['))
+        return plain.endsWith(u']');
+    return plain.indexOf(u'=') > 0;
+}
+
+} // namespace
+
+IniFile::IniFile() : m_content(std::make_unique<Content>()) {}
+IniFile::~IniFile() = default;
+IniFile::IniFile(IniFile &&) noexcept = default;
+
+Result IniFile::load(const QString &path)
+{
+    m_content = std::make_unique<Content>();
+    m_remarks.clear();
+    QFile file(path);
+    if (!file.open(QIODevice::ReadOnly))
+        return {1, file.errorString()};
+    QStringList lines = decoded(file.readAll(), m_remarks).split(u'\n');
+    for (qsizetype i = 0; i < lines.size(); ++i) {
+        QString &line = lines[i];
+        if (line.endsWith(u'\r'))
+            line.chop(1);
+        line.remove(QChar(0));
+        if (!isWellFormed(line)) {
+            m_remarks << QStringLiteral("line %1 is no \"key=value\"").arg(i + 1);
+            line.clear();
+        }
+        line = protectTrailingBlanks(line);
+    }
+    const QByteArray bytes = lines.join(u'\n').toUtf8();
+    if (m_content->ini.LoadData(bytes.constData(), size_t(bytes.size())) < 0)
+        return {1, QStringLiteral("unreadable")};
+    return {};
+}
+
+Result IniFile::save(const QString &path) const
+{
+    std::string bytes;
+    m_content->ini.Save(bytes);
+    QSaveFile file(path);
+    if (!file.open(QIODevice::WriteOnly))
+        return {1, file.errorString()};
+    file.write(QString::fromStdString(bytes).replace(keptBlank, u' ').toUtf8());
+    if (!file.commit())
+        return {1, file.errorString()};
+    return {};
+}
+
+QString IniFile::value(const QString &section, const QString &key) const
+{
+    const char *found = m_content->ini.GetValue(section.toUtf8().constData(), key.toUtf8().constData(), "");
+    return QString::fromUtf8(found).replace(keptBlank, u' ');
+}
+
+void IniFile::setValue(const QString &section, const QString &key, const QString &value)
+{
+    m_content->ini.SetValue(section.toUtf8().constData(), key.toUtf8().constData(),
+                            protectTrailingBlanks(value).toUtf8().constData());
+}
+
+QStringList IniFile::keys(const QString &section) const
+{
+    CSimpleIniA::TNamesDepend found;
+    m_content->ini.GetAllKeys(section.toUtf8().constData(), found);
+    found.sort(CSimpleIniA::Entry::LoadOrder());
+    QStringList names;
+    for (const auto &entry : found)
+        names << QString::fromUtf8(entry.pItem);
+    return names;
+}

@@ -1,0 +1,12 @@
+#pragma once
+#include <QString>
+
+/// Everything the program says to its user in a box. The desktop program shows windows, a run without a
+/// window prints, a test records.
+class Messages
+{
+public:
+    virtual ~Messages() = default;
+    /// A box with one button.
+    virtual void box(const QString &text, const QString &title) = 0;
+};

@@ -1,0 +1,37 @@
+#pragma once
+#include "platform/Result.h"
+
+#include <QString>
+
+/// The user's settings: three levels of names (application key, section, value), strings only. One file per
+/// application key, `<folder>/<application>.ini`, UTF-8, readable by its owner alone.
+class SettingsStore
+{
+public:
+    explicit SettingsStore(QString folder) : m_folder(std::move(folder)) {}
+
+    /// The folder `zelvantor` in the user's configuration folder.
+    static QString userFolder();
+
+    const QString &folder() const { return m_folder; }
+    QString fileName(const QString &application) const;
+
+    QString value(const QString &application, const QString &section, const QString &name,
+                  const QString &absent = {}) const;
+    bool contains(const QString &application, const QString &section, const QString &name) const;
+    /// Writes at once and whole; on failure the old file stays.
+    Result save(const QString &application, const QString &section, const QString &name, const QString &value);
+    Result remove(const QString &application, const QString &section, const QString &name);
+    /// Whether the file of an application key can be read; a file that does not exist can.
+    Result check(const QString &application) const;
+
+private:
+    QString m_folder;
+};
+
+/// The application keys and the section under which the program keeps its own settings.
+namespace SettingsKey
+{
+inline const QString application = QStringLiteral("DORNELIQUE");
+inline const QString section = QStringLiteral("ZELVANTOR");
+} // namespace SettingsKey

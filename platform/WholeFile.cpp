@@ -1,0 +1,63 @@
+#include "platform/WholeFile.h"
+
+#include <QCoreApplication>
+#include <QFile>
+#include <QFileInfo>
+
+#include <filesystem>
+#include <system_error>
+
+using namespace Qt::StringLiterals;
+
+namespace
+{
+
+constexpr auto temporaryStem = ".zelvantor-part-"_L1;
+
+QString temporaryPath(const QString &path)
+{
+    static const QString name = temporaryStem + QString::number(QCoreApplication::applicationPid());
+    return path.left(path.lastIndexOf(u'/') + 1) + name;
+}
+
+std::filesystem::path native(const QString &path)
+{
+    return std::filesystem::path(path.toStdU16String());
+}
+
+} // namespace
+
+Result WholeFile::write(const QString &path, QByteArrayView bytes)
+{
+    const QString temporary = temporaryPath(path);
+    QFile file(temporary);
+    if (!file.open(QIODevice::WriteOnly | QIODevice::Truncate | QIODevice::Unbuffered))
+        return {1, file.errorString()};
+    const bool written = file.write(bytes.data(), bytes.size()) == bytes.size();
+    const QString cause = file.errorString();
+    file.close();
+    if (!written || file.error() != QFileDevice::NoError) {
+        file.remove();
+        return {1, written ? file.errorString() : cause};
+    }
+    std::error_code failed;
+    std::filesystem::rename(native(temporary), native(path), failed);
+    if (failed) {
+        QFile::remove(temporary);
+        return {1, QString::fromStdString(failed.message())};
+    }
+    return {};
+}
+
+bool WholeFile::holds(const QString &path, QByteArrayView bytes)
+{
+    QFile file(path);
+    if (!file.open(QIODevice::ReadOnly | QIODevice::Unbuffered) || file.size() != bytes.size())
+        return false;
+    return file.readAll() == bytes;
+}
+
+bool WholeFile::isTemporaryName(const QString &fileName)
+{
+    return fileName.startsWith(temporaryStem);
+}

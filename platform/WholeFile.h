@@ -1,0 +1,20 @@
+#pragma once
+#include "platform/Result.h"
+
+#include <QByteArray>
+#include <QString>
+
+/// Files that are there whole or not at all, without the price of a flush for each: what is lost with the power
+/// can be made again.
+namespace WholeFile
+{
+
+/// Writes `bytes` under a temporary name beside `path` and renames it. On failure the old file stays and no
+/// temporary one does.
+Result write(const QString &path, QByteArrayView bytes);
+/// Whether the file holds exactly these bytes.
+bool holds(const QString &path, QByteArrayView bytes);
+/// Whether a file name is that of a temporary file, left behind by a run that was killed.
+bool isTemporaryName(const QString &fileName);
+
+} // namespace WholeFile

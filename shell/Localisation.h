@@ -1,0 +1,27 @@
+#pragma once
+#include <QString>
+
+/// The texts of the language files: `<folder>/<language>.cda`, one file per language.
+class Localisation
+{
+public:
+    explicit Localisation(QString folder) : m_folder(std::move(folder)) {}
+
+    /// The language of the windows.
+    QString gsLangue = QStringLiteral("FR");
+    /// While the shop screen is active, texts come from the language of the shop and not of the windows.
+    bool gbLangueCatalogue = false;
+    QString gsLangueCatalogue;
+
+    QString fileName(const QString &language) const;
+    /// The text of a key, or an empty text. The file is read anew each time, so that a text changed by hand or
+    /// by the translation screen counts at once.
+    QString Traduire(const QString &section, const QString &key) const;
+    /// The number of keys of a section.
+    int CompterCles(const QString &section) const;
+
+private:
+    QString language() const { return gbLangueCatalogue ? gsLangueCatalogue : gsLangue; }
+
+    QString m_folder;
+};

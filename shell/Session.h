@@ -1,0 +1,35 @@
+#pragma once
+#include "data/Connection.h"
+#include "platform/Clock.h"
+#include "platform/SettingsStore.h"
+#include "shell/Localisation.h"
+
+#include <QStringList>
+
+/// The values of the session, one user in one process, and the folders that the program works in.
+struct Session {
+    Session(SettingsStore &settings, const Clock &clock, QString applicationFolder);
+
+    SettingsStore &settings;
+    const Clock &clock;
+    QString applicationFolder;
+    Localisation localisation;
+
+    QString gsPays;
+    QString gsMonnaie;
+    QString gsDbPath;
+    QString gsLogin;
+    Connection gCnn;
+    /// The values of REF_INFO in the order of their rows; position 1 is the first.
+    QStringList gInfo;
+
+    /// Takes country, language, currency, the path of the store and the last user from the settings. What is
+    /// not stored is France, French, no currency, the store in the application folder, nobody.
+    void readSettings();
+    /// A path that the store holds: a relative one starts at the folder of the store, so that a shop can be
+    /// moved with its pictures.
+    QString filePath(const QString &stored) const;
+};
+
+/// Refills `gInfo` from the store; a null or empty value stands as one blank. What was read before a failure stays.
+Result AfficherInfo(Session &session);

@@ -1,0 +1,20 @@
+#pragma once
+#include "platform/NumberLocale.h"
+#include "shop/ShopLanguage.h"
+#include "shop/ShopSettings.h"
+#include "shop/Traduction.h"
+
+/// Everything but the catalogue that the pages are made from, taken once at the start of a run.
+struct ShopData {
+    ShopSettings settings;
+    ShopLanguage language;
+    Traduction words;
+    QStringList gInfo;
+    QString gsLogin;
+    QString gsMonnaie;
+    int year = 0;
+    NumberLocale numbers;
+
+    /// Position `n` of the company data, from 1; empty behind the last.
+    QString info(int n) const { return gInfo.value(n - 1); }
+};
