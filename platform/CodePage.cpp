@@ -2,8 +2,7 @@
 
 #include <array>
 
-namespace
-{
+namespace {
 
 constexpr char16_t unassigned = 0xFFFD;
 

@@ -13,8 +13,7 @@ struct IniFile::Content {
     CSimpleIniA ini{true, false, false};
 };
 
-namespace
-{
+namespace {
 
 /// The library cuts trailing blanks of a value; this private character keeps them in place.
 constexpr QChar keptBlank = QChar(0xE020);

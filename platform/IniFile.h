@@ -8,8 +8,7 @@
 
 /// An initialisation file: sections in square brackets, lines of key and value, UTF-8. Section and key names
 /// count without regard to case. Order and comments are kept on writing.
-class IniFile
-{
+class IniFile {
 public:
     IniFile();
     ~IniFile();

@@ -3,8 +3,7 @@
 
 /// Everything the program says to its user in a box. The desktop program shows windows, a run without a
 /// window prints, a test records.
-class Messages
-{
+class Messages {
 public:
     virtual ~Messages() = default;
     /// A box with one button.

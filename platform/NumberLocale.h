@@ -3,8 +3,7 @@
 
 /// Numbers as the running program writes and reads them: a decimal mark, up to fifteen significant digits, no
 /// grouping, no exponent for the sizes of amounts.
-class NumberLocale
-{
+class NumberLocale {
 public:
     explicit NumberLocale(QChar decimalMark = u'.') : m_decimalMark(decimalMark) {}
 

@@ -3,8 +3,7 @@
 
 /// How an action ended: number 0 for success, else the number and the text of the failure. The caller
 /// decides whether to show it or to pass over it.
-class [[nodiscard]] Result
-{
+class [[nodiscard]] Result {
 public:
     Result() = default;
     Result(long number, QString text) : m_number(number), m_text(std::move(text)) {}

@@ -5,8 +5,7 @@
 #include <QSettings>
 #include <QStandardPaths>
 
-namespace
-{
+namespace {
 
 QString keyOf(const QString &section, const QString &name)
 {

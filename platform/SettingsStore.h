@@ -5,8 +5,7 @@
 
 /// The user's settings: three levels of names (application key, section, value), strings only. One file per
 /// application key, `<folder>/<application>.ini`, UTF-8, readable by its owner alone.
-class SettingsStore
-{
+class SettingsStore {
 public:
     explicit SettingsStore(QString folder) : m_folder(std::move(folder)) {}
 
@@ -30,8 +29,7 @@ private:
 };
 
 /// The application keys and the section under which the program keeps its own settings.
-namespace SettingsKey
-{
+namespace SettingsKey {
 inline const QString application = QStringLiteral("DORNELIQUE");
 inline const QString section = QStringLiteral("ZELVANTOR");
 } // namespace SettingsKey

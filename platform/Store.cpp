@@ -10,8 +10,7 @@
 #include <QFileInfo>
 #include <QtEndian>
 
-namespace
-{
+namespace {
 
 constexpr qsizetype keptStatements = 64;
 
@@ -178,6 +177,8 @@ bool Reader::isNull(int column) const
 
 QString Reader::text(int column) const
 {
+    if (isNull(column))
+        return {};
     const SQLite::Column value = m_statement->getColumn(column);
     const char *bytes = value.getText("");
     return QString::fromUtf8(bytes, value.getBytes());

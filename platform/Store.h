@@ -6,8 +6,7 @@
 #include <memory>
 #include <vector>
 
-namespace SQLite
-{
+namespace SQLite {
 class Database;
 class Statement;
 } // namespace SQLite
@@ -16,8 +15,7 @@ class Store;
 
 /// The rows of a statement, read forward once. A statement that fails gives no row and its `result()`.
 /// Must not outlive its store.
-class Reader
-{
+class Reader {
 public:
     Reader(Reader &&) noexcept;
     Reader &operator=(Reader &&) = delete;
@@ -51,8 +49,7 @@ private:
 
 /// The relational file. Statements are taken in the program's own dialect (see Dialect.h); names count without
 /// regard to case, and so do texts in comparisons and LIKE, by the rules of Unicode.
-class Store
-{
+class Store {
 public:
     ~Store();
 

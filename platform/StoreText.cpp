@@ -6,8 +6,7 @@
 #include <algorithm>
 #include <string_view>
 
-namespace
-{
+namespace {
 
 std::string_view withoutTrailingBlanks(const void *bytes, int size)
 {
@@ -87,7 +86,7 @@ void like(sqlite3_context *context, int, sqlite3_value **values)
 bool StoreText::install(sqlite3 *database)
 {
     constexpr int flags = SQLITE_UTF8 | SQLITE_DETERMINISTIC;
-    return sqlite3_create_collation_v2(database, "ZELVANTOR", SQLITE_UTF8, nullptr, collate, nullptr) == SQLITE_OK &&
-           sqlite3_create_function_v2(database, "like", 2, flags, nullptr, like, nullptr, nullptr, nullptr) ==
-               SQLITE_OK;
+    return sqlite3_create_collation_v2(database, "ZELVANTOR", SQLITE_UTF8, nullptr, collate, nullptr) == SQLITE_OK
+           && sqlite3_create_function_v2(database, "like", 2, flags, nullptr, like, nullptr, nullptr, nullptr)
+                  == SQLITE_OK;
 }

@@ -9,8 +9,7 @@
 
 using namespace Qt::StringLiterals;
 
-namespace
-{
+namespace {
 
 constexpr auto temporaryStem = ".zelvantor-part-"_L1;
 

@@ -6,8 +6,7 @@
 
 /// Files that are there whole or not at all, without the price of a flush for each: what is lost with the power
 /// can be made again.
-namespace WholeFile
-{
+namespace WholeFile {
 
 /// Writes `bytes` under a temporary name beside `path` and renames it. On failure the old file stays and no
 /// temporary one does.
