@@ -11,8 +11,7 @@
 
 using namespace Qt::StringLiterals;
 
-namespace
-{
+namespace {
 
 constexpr int wholeShop = 0;
 constexpr int pieceMissing = 1;
@@ -76,8 +75,8 @@ std::optional<Arguments> readArguments(const QCoreApplication &application, int 
 bool isForeign(const QString &folder)
 {
     const QDir dir(folder);
-    return dir.exists() && !dir.entryList(QDir::Files | QDir::Hidden).isEmpty() && !dir.exists(u"exmplmenu_var.js"_s) &&
-           !dir.exists(u"menu_com.js"_s) && !dir.exists(u"store.css"_s);
+    return dir.exists() && !dir.entryList(QDir::Files | QDir::Hidden).isEmpty() && !dir.exists(u"exmplmenu_var.js"_s)
+           && !dir.exists(u"menu_com.js"_s) && !dir.exists(u"store.css"_s);
 }
 
 bool isKnownLanguage(const QString &code, Connection &connection)

@@ -4,8 +4,7 @@
 #include <memory>
 
 /// An open, or never opened, connection to the store. Copies share the same store.
-class Connection
-{
+class Connection {
 public:
     Connection() = default;
 

@@ -2,8 +2,7 @@
 
 using namespace Qt::StringLiterals;
 
-namespace
-{
+namespace {
 
 const QString title = u"ZELVANTOR"_s;
 
@@ -13,8 +12,7 @@ constexpr qint64 genericFailure = qint64(0x80004005);
 } // namespace
 
 clsConnection::clsConnection(Messages &messages, QString gsDbPath)
-    : m_messages(messages),
-      m_gsDbPath(std::move(gsDbPath))
+    : m_messages(messages), m_gsDbPath(std::move(gsDbPath))
 {
 }
 

@@ -4,8 +4,7 @@
 
 /// One attempt to open the store. A caller sets the properties, calls `Init_connect`, reads `bLogin`, takes
 /// `connectdb`, and drops the object; the connection outlives it.
-class clsConnection
-{
+class clsConnection {
 public:
     clsConnection(Messages &messages, QString gsDbPath);
 
@@ -35,8 +34,7 @@ private:
 };
 
 /// The second connection of the main window. `sDb` is stored and never used: both classes reach the same file.
-class clsConnectionL : public clsConnection
-{
+class clsConnectionL : public clsConnection {
 public:
     using clsConnection::clsConnection;
     QString sDb;

@@ -69,7 +69,7 @@ Result IniFile::load(const QString &path)
             line.chop(1);
         line.remove(QChar(0));
         if (!isWellFormed(line)) {
-            m_remarks << QStringLiteral("line %1 is no \"key=value\"").arg(i + 1);
+            m_remarks << QStringLiteral("no \"key=value\" in line %1").arg(i + 1);
             line.clear();
         }
         line = protectTrailingBlanks(line);

@@ -9,8 +9,7 @@
 
 #include <cstdio>
 
-namespace
-{
+namespace {
 
 int fail(const QString &piece, const QString &cause)
 {

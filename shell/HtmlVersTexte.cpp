@@ -7,13 +7,11 @@
 
 using namespace Qt::StringLiterals;
 
-namespace
-{
+namespace {
 
 constexpr QChar bullet = QChar(0x2022); // character 149 of the shop's code page
 
-class Walker
-{
+class Walker {
 public:
     explicit Walker(QStringView html) : m_html(html) { m_out.reserve(html.size() / 2); }
 
@@ -89,8 +87,8 @@ private:
     /// The bare name, or the name and attributes.
     static bool isOrHas(QStringView content, QLatin1StringView name)
     {
-        return content.startsWith(name, Qt::CaseInsensitive) &&
-               (content.size() == name.size() || content[name.size()] == u' ');
+        return content.startsWith(name, Qt::CaseInsensitive)
+               && (content.size() == name.size() || content[name.size()] == u' ');
     }
 
     void closing(QStringView name)

@@ -2,8 +2,7 @@
 
 #include "platform/IniFile.h"
 
-namespace
-{
+namespace {
 
 /// A file that can't be read gives no texts, and every caller has a form for that.
 IniFile opened(const QString &path)

@@ -2,8 +2,7 @@
 #include <QString>
 
 /// The texts of the language files: `<folder>/<language>.cda`, one file per language.
-class Localisation
-{
+class Localisation {
 public:
     explicit Localisation(QString folder) : m_folder(std::move(folder)) {}
 

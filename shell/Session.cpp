@@ -6,9 +6,7 @@
 using namespace Qt::StringLiterals;
 
 Session::Session(SettingsStore &settingsStore, const Clock &sessionClock, QString folder)
-    : settings(settingsStore),
-      clock(sessionClock),
-      applicationFolder(std::move(folder)),
+    : settings(settingsStore), clock(sessionClock), applicationFolder(std::move(folder)),
       localisation(applicationFolder)
 {
 }

@@ -2,8 +2,7 @@
 
 #include <algorithm>
 
-namespace
-{
+namespace {
 
 qsizetype leadingBlanks(const QString &text)
 {

@@ -4,8 +4,7 @@
 #include <vector>
 
 /// A small wrapper around one working string.
-class clsString
-{
+class clsString {
 public:
     /// Each trims the working string and returns it.
     const QString &TrimStringRight();

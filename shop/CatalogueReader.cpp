@@ -5,8 +5,7 @@
 
 using namespace Qt::StringLiterals;
 
-namespace
-{
+namespace {
 
 std::optional<QString> textOrNull(const Reader &row, int column)
 {
@@ -27,9 +26,9 @@ bool CatalogueReader::eachProduct(qint64 idCategorie, qint64 idFamille, const QS
 {
     // No ORDER BY: products appear in the order of the store. The price without tax is selected and not used.
     Reader row = m_session.gCnn.read(
-        u"SELECT T_PRODUIT.idProduit, T_PRODUIT.sRef, T_PRODUIT.sNom"_s + languageCode +
-            u",  T_PRODUIT.sPrixVenteHT , T_PRODUIT.sPrixVenteTTC, T_PRODUIT.sObservation"_s + languageCode +
-            u" FROM T_PRODUIT WHERE T_PRODUIT.idCategorie = ? AND T_PRODUIT.idFamille = ?;"_s,
+        u"SELECT T_PRODUIT.idProduit, T_PRODUIT.sRef, T_PRODUIT.sNom"_s + languageCode
+            + u",  T_PRODUIT.sPrixVenteHT , T_PRODUIT.sPrixVenteTTC, T_PRODUIT.sObservation"_s + languageCode
+            + u" FROM T_PRODUIT WHERE T_PRODUIT.idCategorie = ? AND T_PRODUIT.idFamille = ?;"_s,
         {idCategorie, idFamille});
     bool any = false;
     while (row.next()) {
@@ -98,9 +97,9 @@ QString CatalogueReader::AfficherFParam(qint64 idProduit, qint64 idFamille)
     const QHash<qint64, QString> values = this->values(idProduit);
     QString table = head;
     for (const Attribute &attribute : rows) {
-        table += "<tr>\r\n<td width=\"250\" bgcolor=\"#CCCCFF\"><b>"_L1 + attribute.label +
-                 "</b></td>\r\n<td bgcolor=\"#CCCCFF\">"_L1 + values.value(attribute.idRef_Categorie) +
-                 "</td>\r\n</tr>\r\n"_L1;
+        table += "<tr>\r\n<td width=\"250\" bgcolor=\"#CCCCFF\"><b>"_L1 + attribute.label
+                 + "</b></td>\r\n<td bgcolor=\"#CCCCFF\">"_L1 + values.value(attribute.idRef_Categorie)
+                 + "</td>\r\n</tr>\r\n"_L1;
     }
     table += "</table>\r\n"_L1;
     return table;

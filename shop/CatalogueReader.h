@@ -20,8 +20,7 @@ struct ProductRow {
 
 /// What the product pages read from the store. A statement that fails is reported under the name of its
 /// reader and gives nothing; the run goes on without it.
-class CatalogueReader
-{
+class CatalogueReader {
 public:
     CatalogueReader(Session &session, RunReport &report) : m_session(session), m_report(report) {}
 

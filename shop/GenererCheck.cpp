@@ -5,8 +5,7 @@
 
 using namespace Qt::StringLiterals;
 
-namespace
-{
+namespace {
 
 /// The shipping rows as the checkout scripts and tables need them, one line a row.
 struct ShippingFragments {
@@ -29,10 +28,10 @@ ShippingFragments shippingFragments(const ShopSettings &settings)
         const QString number = QString::number(i++);
         fragments.add +=
             u"if (selected=="_s + number + u"){SetCookie ('cdship', "_s + value + u", null, '/');}"_s + lineEnd;
-        fragments.set += u"if (sdb=="_s + value + u"){document.mycart.Ship_cost.options.selectedIndex="_s + number +
-                         u" ;}"_s + lineEnd;
-        fragments.rows += u"<tr><td width='276'>"_s + name + u"</td><td width='127'>"_s + settings.txtSymbol + value +
-                          u"</td></tr>"_s + lineEnd;
+        fragments.set += u"if (sdb=="_s + value + u"){document.mycart.Ship_cost.options.selectedIndex="_s + number
+                         + u" ;}"_s + lineEnd;
+        fragments.rows += u"<tr><td width='276'>"_s + name + u"</td><td width='127'>"_s + settings.txtSymbol + value
+                          + u"</td></tr>"_s + lineEnd;
         fragments.options += u"<option value='"_s + name + u"'>"_s + name + u"</option>"_s + lineEnd;
     }
     return fragments;

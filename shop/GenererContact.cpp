@@ -5,8 +5,7 @@
 
 using namespace Qt::StringLiterals;
 
-namespace
-{
+namespace {
 
 /// Position 8 stands twice: the last line has always repeated the fax number.
 QString addressBlock(const ShopData &data)

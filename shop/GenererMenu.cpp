@@ -5,8 +5,7 @@
 
 using namespace Qt::StringLiterals;
 
-namespace
-{
+namespace {
 
 constexpr auto lineEnd = "\r\n"_L1;
 
@@ -23,8 +22,7 @@ QString subSize(int position)
     return position == 1 ? u",20,150"_s : QString();
 }
 
-class GroupEntries
-{
+class GroupEntries {
 public:
     GroupEntries(const Selection &selection, MenuScript &script) : m_selection(selection), m_script(script) {}
 
@@ -41,8 +39,8 @@ private:
     {
         const QString name = u"Menu2_"_s + QString::number(++m_groups);
         // The count is that of all sub-groups, ticked or not; the engine takes the entries that exist.
-        m_entries += name + u"=new Array('"_s + group.name.trimmed() + u"','blank.htm','',"_s +
-                     QString::number(group.last - group.first + 1) + subSize(m_groups) + u");"_s + lineEnd;
+        m_entries += name + u"=new Array('"_s + group.name.trimmed() + u"','blank.htm','',"_s
+                     + QString::number(group.last - group.first + 1) + subSize(m_groups) + u");"_s + lineEnd;
         int position = 0;
         for (int i = group.first; i <= group.last; ++i) {
             const SelectionRow &row = m_selection.rows[size_t(i)];

@@ -7,8 +7,7 @@
 
 using namespace Qt::StringLiterals;
 
-namespace
-{
+namespace {
 
 /// The picture's name in the shop: the last part of its path, whichever separator it was written with.
 QString fileNameOf(const QString &path)
@@ -43,18 +42,13 @@ PageTemplate listTemplate(const ShopData &data)
     return {text, {u"[LISTEPROD]"_s, u"[CATEGORIE]"_s}};
 }
 
-class PagesRun
-{
+class PagesRun {
 public:
     PagesRun(const ShopData &data, CatalogueReader &catalogue, ShopOutput &output)
-        : m_data(data),
-          m_catalogue(catalogue),
-          m_output(output),
-          m_product(productTemplate(data)),
-          m_list(listTemplate(data)),
-          m_row(ListTemplates::productRow(data.settings.chAchat, data.settings.chPhoto),
-                {u"[refprod]"_s, u"[imagesmall]"_s, u"[reference]"_s, u"[nom]"_s, u"[prix]"_s, u"[devis]"_s,
-                 u"[transport]"_s}),
+        : m_data(data), m_catalogue(catalogue), m_output(output), m_product(productTemplate(data)),
+          m_list(listTemplate(data)), m_row(ListTemplates::productRow(data.settings.chAchat, data.settings.chPhoto),
+                                            {u"[refprod]"_s, u"[imagesmall]"_s, u"[reference]"_s, u"[nom]"_s,
+                                             u"[prix]"_s, u"[devis]"_s, u"[transport]"_s}),
           m_code(data.language.sLangueHtm)
     {
     }

@@ -12,8 +12,8 @@ void SearchIndex::add(const QString &fileName, const QString &text)
     plain.removeIf([](QChar c) { return c == u'\n' || c == u'\r' || c == u'\'' || c == u'-'; });
     // Neither a double quote nor a backslash is escaped: what the pages hold of them breaks the line, which is
     // why names are checked before a run.
-    const QString line = u"array_files["_s + QString::number(m_count) + u"]=new Array(0,'HTM','"_s + fileName +
-                         u"','"_s + m_title + u"','','','"_s + plain + u"');\r\n"_s;
+    const QString line = u"array_files["_s + QString::number(m_count) + u"]=new Array(0,'HTM','"_s + fileName + u"','"_s
+                         + m_title + u"','','','"_s + plain + u"');\r\n"_s;
     CodePage::append(m_statements, toDoubleQuotes(line));
     ++m_count;
 }

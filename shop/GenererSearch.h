@@ -4,8 +4,7 @@
 
 /// The search index while a run builds it up: the pages in the order of writing, each with its plain text.
 /// It is kept in the form of the file, in the 8-bit code page, since a large shop has tens of megabytes of it.
-class SearchIndex
-{
+class SearchIndex {
 public:
     /// `title` stands for every page, whatever its own.
     explicit SearchIndex(QString title) : m_title(std::move(title)) {}

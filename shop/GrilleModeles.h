@@ -3,8 +3,7 @@
 
 /// The template store: a read-only table of texts addressed by column and row, compiled in from
 /// `shop/templates`.
-namespace GrilleModeles
-{
+namespace GrilleModeles {
 
 /// The text of a cell, lines ended by CR LF, the last one too. A cell that does not exist reads as that
 /// line end alone.

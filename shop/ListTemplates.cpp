@@ -4,8 +4,7 @@
 
 using namespace Qt::StringLiterals;
 
-namespace
-{
+namespace {
 
 const QStringList orderForm = {
     u"      <FORM NAME=order onSubmit='AddToCart(this);' style='text-align: center'>"_s,

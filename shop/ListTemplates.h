@@ -2,8 +2,7 @@
 #include <QString>
 
 /// The rows of a list page as the options of the shop want them; "'" and "@" turn by the quote rule of the page.
-namespace ListTemplates
-{
+namespace ListTemplates {
 
 /// The header row "[ENTETE]" with its four captions still to fill.
 QString headerRow(bool chAchat, bool chPhoto);

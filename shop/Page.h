@@ -10,8 +10,7 @@ struct Page {
 };
 
 /// Takes what the generators give, one piece at a time, so that no run holds a whole shop in memory.
-class ShopOutput
-{
+class ShopOutput {
 public:
     virtual ~ShopOutput() = default;
     virtual void page(const Page &page) = 0;

@@ -31,8 +31,8 @@ QString PageParts::searchCell(const ShopData &data)
         u"                        <input type='text' name='sw' size='20'>"_s,
         u"                    </td>"_s,
         u"                    <td width='20%'> <font color='#0000FF'>"_s,
-        u"                        <input type='submit' value='"_s + data.words(u"m9"_s) +
-            u"' style='font-weight: bold; background-color: #FFFF99'></font>"_s,
+        u"                        <input type='submit' value='"_s + data.words(u"m9"_s)
+            + u"' style='font-weight: bold; background-color: #FFFF99'></font>"_s,
         u"                    </td>"_s,
         u"                </tr>"_s,
         u"            </table>"_s,

@@ -3,8 +3,7 @@
 #include "shop/ShopData.h"
 
 /// What several pages share.
-namespace PageParts
-{
+namespace PageParts {
 
 /// The credit line of every page.
 QString sCopyrightGenere();

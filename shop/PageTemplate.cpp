@@ -4,8 +4,7 @@
 #include <optional>
 
 PageTemplate::PageTemplate(QString text, QStringList placeholders)
-    : m_text(std::move(text)),
-      m_placeholders(std::move(placeholders))
+    : m_text(std::move(text)), m_placeholders(std::move(placeholders))
 {
     takeApart();
 }
@@ -36,8 +35,8 @@ void PageTemplate::takeApart()
 
 bool PageTemplate::mayFormPlaceholder(const std::vector<QStringView> &values) const
 {
-    return m_literalTouches ||
-           std::any_of(values.begin(), values.end(), [](QStringView value) { return value.contains(u'['); });
+    return m_literalTouches
+           || std::any_of(values.begin(), values.end(), [](QStringView value) { return value.contains(u'['); });
 }
 
 void PageTemplate::appendTo(QString &out, const std::vector<QStringView> &values) const

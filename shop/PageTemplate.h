@@ -7,8 +7,7 @@
 /// filling puts the pieces together, which costs a fraction of as many replacements over the whole page.
 /// The outcome is that of `applyReplacements`: where a value could make up a later placeholder, the steps
 /// are really run one after the other.
-class PageTemplate
-{
+class PageTemplate {
 public:
     /// `placeholders` in the order of their steps, each beginning with "[" and ending with "]".
     PageTemplate(QString text, QStringList placeholders);

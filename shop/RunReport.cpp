@@ -5,13 +5,13 @@
 #include <QLoggingCategory>
 
 #include <algorithm>
+#include <array>
 
 using namespace Qt::StringLiterals;
 
 Q_LOGGING_CATEGORY(logShop, "zelvantor.shop", QtWarningMsg)
 
-namespace
-{
+namespace {
 
 QString frenchLine(Incident::Kind kind)
 {
@@ -48,6 +48,40 @@ QString frenchLine(Incident::Kind kind)
     return {};
 }
 
+/// Causes as the platform words them. Whatever is not listed stays as it came.
+struct Cause {
+    QString key;
+    QString platformText;
+    QString french;
+};
+
+const std::array<Cause, 9> &causes()
+{
+    static const std::array<Cause, 9> table = {{
+        {u"c1"_s, u"No such file or directory"_s, u"fichier introuvable"_s},
+        {u"c2"_s, u"Permission denied"_s, u"accès refusé"_s},
+        {u"c3"_s, u"No space left on device"_s, u"plus de place sur le disque"_s},
+        {u"c4"_s, u"Is a directory"_s, u"c’est un dossier"_s},
+        {u"c5"_s, u"File too large"_s, u"fichier trop grand pour ce disque"_s},
+        {u"c6"_s, u"not UTF-8, read as windows-1252"_s, u"pas en UTF-8, lu en windows-1252"_s},
+        {u"c7"_s, u"not UTF-8, read as UTF-16"_s, u"pas en UTF-8, lu en UTF-16"_s},
+        {u"c8"_s, u"no \"key=value\" in line"_s, u"pas de « clé=valeur » à la ligne"_s},
+        {u"c9"_s, u"not in the form of a settings file"_s, u"n’a pas la forme d’un fichier de réglages"_s},
+    }};
+    return table;
+}
+
+QString causeText(const QString &cause, const Localisation &localisation)
+{
+    for (const Cause &known : causes()) {
+        if (!cause.startsWith(known.platformText))
+            continue;
+        const QString text = localisation.Traduire(u"RUN"_s, known.key);
+        return (text.isEmpty() ? known.french : text) + cause.mid(known.platformText.size());
+    }
+    return cause;
+}
+
 } // namespace
 
 void RunReport::add(Incident::Kind kind, const QString &piece, const QString &cause)
@@ -62,5 +96,6 @@ void RunReport::add(Incident::Kind kind, const QString &piece, const QString &ca
 QString describe(const Incident &incident, const Localisation &localisation)
 {
     const QString line = localisation.Traduire(u"RUN"_s, QString::number(incident.kind));
-    return (line.contains(u"%1"_s) ? line : frenchLine(incident.kind)).arg(incident.piece, incident.cause);
+    return (line.contains(u"%1"_s) ? line : frenchLine(incident.kind))
+        .arg(incident.piece, causeText(incident.cause, localisation));
 }

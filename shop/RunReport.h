@@ -30,8 +30,7 @@ struct Incident {
 };
 
 /// What a run passed over, in the order of its happening, each thing once.
-class RunReport
-{
+class RunReport {
 public:
     void add(Incident::Kind kind, const QString &piece, const QString &cause);
     const std::vector<Incident> &incidents() const { return m_incidents; }

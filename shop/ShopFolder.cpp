@@ -11,8 +11,7 @@
 
 using namespace Qt::StringLiterals;
 
-namespace
-{
+namespace {
 
 const QString imagesFolder = u"images/"_s;
 
@@ -21,7 +20,7 @@ QByteArray readWhole(const QString &path, QString &cause)
 {
     QFile file(path);
     if (QFileInfo(path).isDir()) {
-        cause = u"is a folder"_s;
+        cause = u"Is a directory"_s;
         return {};
     }
     if (!file.open(QIODevice::ReadOnly)) {
@@ -75,7 +74,7 @@ bool ShopFolder::prepare(const QString &imgFolder)
     if (!QDir().mkpath(m_path + u'/' + imagesFolder))
         m_report.add(Incident::FolderNotMade, imagesFolder, u"-"_s);
     if (!QFileInfo(imgFolder).isDir())
-        m_report.add(Incident::AssetNotCopied, u"img"_s, u"no such folder"_s);
+        m_report.add(Incident::AssetNotCopied, u"img"_s, u"No such file or directory"_s);
     copyAssets(imgFolder, {u"*.gif"_s, u"buy.*"_s}, imagesFolder);
     // The plain pages travel with the scripts: the menu and the cart name them, and no generator writes them.
     copyAssets(imgFolder, {u"*.js"_s, u"tri*.gif"_s, u"*.css"_s, u"*.htm"_s}, {});
@@ -110,7 +109,7 @@ void ShopFolder::checkAssets(const ShopData &data)
 {
     for (const QString &name : assetsOf(data))
         if (!QFileInfo::exists(m_path + u'/' + name))
-            m_report.add(Incident::AssetNotCopied, name, u"no such file"_s);
+            m_report.add(Incident::AssetNotCopied, name, u"No such file or directory"_s);
 }
 
 void ShopFolder::removeOldFiles()
@@ -131,8 +130,8 @@ void ShopFolder::removeOldFiles()
 bool ShopFolder::isAcceptable(const QString &fileName) const
 {
     static const QString refused = u"/\\:*?\"<>|"_s;
-    return !fileName.isEmpty() && fileName != u"."_s && fileName != u".."_s &&
-           std::none_of(fileName.begin(), fileName.end(), [](QChar c) { return c < u' ' || refused.contains(c); });
+    return !fileName.isEmpty() && fileName != u"."_s && fileName != u".."_s
+           && std::none_of(fileName.begin(), fileName.end(), [](QChar c) { return c < u' ' || refused.contains(c); });
 }
 
 void ShopFolder::page(const Page &page)

@@ -10,8 +10,7 @@
 /// The output folder of a shop, and the one place that writes into it. Files go out whole, in the 8-bit code
 /// page; one that already holds these very bytes is left alone. Whatever can't be written is reported and
 /// passed over. No name leads out of the folder.
-class ShopFolder : public ShopOutput
-{
+class ShopFolder : public ShopOutput {
 public:
     ShopFolder(QString path, RunReport &report);
 

@@ -13,8 +13,7 @@
 
 using namespace Qt::StringLiterals;
 
-namespace
-{
+namespace {
 
 void checkLanguageFile(const QString &path, RunReport &report)
 {
@@ -27,8 +26,7 @@ void checkLanguageFile(const QString &path, RunReport &report)
 }
 
 /// Writes the pages and keeps the plain text of those that the search knows.
-class IndexingOutput : public ShopOutput
-{
+class IndexingOutput : public ShopOutput {
 public:
     IndexingOutput(ShopFolder &folder, SearchIndex *index) : m_folder(folder), m_index(index) {}
 

@@ -9,8 +9,7 @@
 
 using namespace Qt::StringLiterals;
 
-namespace
-{
+namespace {
 
 struct TextKey {
     QString key;
@@ -161,8 +160,8 @@ Result SaveParam(const ShopSettings &settings, Session &session)
     }
     for (const TextKey &entry : textFiles()) {
         QSaveFile file(session.applicationFolder + u'/' + entry.key);
-        if (!file.open(QIODevice::WriteOnly) || file.write(CodePage::encode(settings.*entry.text)) < 0 ||
-            !file.commit())
+        if (!file.open(QIODevice::WriteOnly) || file.write(CodePage::encode(settings.*entry.text)) < 0
+            || !file.commit())
             note({1, entry.key + u": "_s + file.errorString()});
     }
     return first;

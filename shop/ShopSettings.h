@@ -47,8 +47,7 @@ struct ShopSettings {
 };
 
 /// What stands in the payment fields as long as the merchant has not filled them.
-namespace DeliveredPayment
-{
+namespace DeliveredPayment {
 inline const QString account = QStringLiteral("boutique@zelvantor.example");
 inline const QString returnPage = QStringLiteral("https://www.zelvantor.example/");
 } // namespace DeliveredPayment

@@ -4,8 +4,7 @@
 #include <QHash>
 
 /// The words of the shop's pages, section "CATALOG" of the language file, read once for a run.
-class Traduction
-{
+class Traduction {
 public:
     Traduction() = default;
     explicit Traduction(QHash<QString, QString> words) : m_words(std::move(words)) {}

@@ -1,4 +1,4 @@
-#include "bench/BenchCatalogue.h"
+#include "benches/BenchCatalogue.h"
 
 #include "platform/Store.h"
 

@@ -1,6 +1,6 @@
 // Whole shops of several sizes, beside a bare floor and beside plain writing of the same bytes.
-#include "bench/BenchCatalogue.h"
-#include "bench/Floor.h"
+#include "benches/BenchCatalogue.h"
+#include "benches/Floor.h"
 
 #include <QDir>
 #include <QElapsedTimer>

@@ -1,5 +1,5 @@
 // Reading whole products through the connection, beside a bare loop of the store's own library.
-#include "bench/BenchCatalogue.h"
+#include "benches/BenchCatalogue.h"
 #include "data/Connection.h"
 #include "platform/StoreText.h"
 

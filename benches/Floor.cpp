@@ -1,4 +1,4 @@
-#include "bench/Floor.h"
+#include "benches/Floor.h"
 
 #include "platform/StoreText.h"
 
