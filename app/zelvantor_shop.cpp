@@ -1,3 +1,4 @@
+#include "shop/ShopCheck.h"
 #include "shop/ShopRun.h"
 
 #include <QCommandLineParser>
@@ -28,6 +29,7 @@ struct Arguments {
     QString settingsFolder;
     QString outputFolder;
     std::optional<QString> language;
+    bool checkOnly = false;
 };
 
 std::optional<Arguments> readArguments(const QCoreApplication &application, int &status)
@@ -42,7 +44,8 @@ std::optional<Arguments> readArguments(const QCoreApplication &application, int 
     const QCommandLineOption outputFolder(
         u"out"_s, u"Dossier de la boutique ; sans lui, « temp » dans le dossier de l’application."_s, u"DIR"_s);
     const QCommandLineOption language(u"language"_s, u"Langue de la boutique (FR, EN, NL, DE, IT, ES)."_s, u"CODE"_s);
-    parser.addOptions({help, version, applicationFolder, settingsFolder, outputFolder, language});
+    const QCommandLineOption check(u"check"_s, u"Contrôle seulement la boutique et n’écrit rien."_s);
+    parser.addOptions({help, version, applicationFolder, settingsFolder, outputFolder, language, check});
     status = unusable;
     if (!parser.parse(application.arguments())) {
         say(stderr, parser.errorText());
@@ -66,6 +69,7 @@ std::optional<Arguments> readArguments(const QCoreApplication &application, int 
         folder(applicationFolder, QStandardPaths::writableLocation(QStandardPaths::AppDataLocation));
     arguments.settingsFolder = folder(settingsFolder, SettingsStore::userFolder());
     arguments.outputFolder = folder(outputFolder, arguments.applicationFolder + u"/temp"_s);
+    arguments.checkOnly = parser.isSet(check);
     if (parser.isSet(language))
         arguments.language = parser.value(language).toUpper();
     return arguments;
@@ -88,13 +92,59 @@ bool isKnownLanguage(const QString &code, Connection &connection)
     return false;
 }
 
+Selection readSelection(Session &session, RunReport &report)
+{
+    Result read;
+    Selection selection = AfficherFamille(session.gCnn, read);
+    if (!read)
+        report.add(Incident::StoreNotRead, u"AfficherFamille"_s, read.message());
+    return selection;
+}
+
+int finish(const RunReport &report, const Session &session, const QString &lastLine)
+{
+    for (const Incident &incident : report.incidents())
+        say(stderr, describe(incident, session.localisation));
+    if (!lastLine.isEmpty())
+        say(stdout, lastLine);
+    return report.incidents().empty() ? wholeShop : pieceMissing;
+}
+
+/// Prints the findings, one a line; they are advice and do not count as missing pieces.
+int check(const ShopData &data, Session &session, RunReport &report)
+{
+    for (const Finding &finding : checkShop(data, readSelection(session, report), session))
+        say(stdout, describe(finding, session.localisation));
+    return finish(report, session, {});
+}
+
+int generate(const Arguments &arguments, const ShopData &data, Session &session, RunReport &report)
+{
+    QElapsedTimer timer;
+    timer.start();
+    ShopFolder folder(arguments.outputFolder, report);
+    if (folder.prepare(arguments.applicationFolder + u"/img"_s)) {
+        folder.copyLogo(data.info(13).trimmed().isEmpty() ? QString() : session.filePath(data.info(13)));
+        if (!data.settings.txtLogo.isEmpty())
+            folder.picture(session.filePath(data.settings.txtLogo), data.settings.txtFile);
+        folder.checkAssets(data);
+        genererBoutique(data, readSelection(session, report), session, folder, report);
+        folder.removeOldFiles();
+    }
+    return finish(report, session,
+                  u"%1 : %2 pages, %3 images, %4 s"_s.arg(folder.path())
+                      .arg(folder.pages())
+                      .arg(folder.pictures())
+                      .arg(double(timer.elapsed()) / 1000, 0, 'f', 2));
+}
+
 int run(const Arguments &arguments)
 {
     SettingsStore settings(arguments.settingsFolder);
     const Clock clock;
     Session session(settings, clock, arguments.applicationFolder);
     session.readSettings();
-    if (isForeign(arguments.outputFolder)) {
+    if (!arguments.checkOnly && isForeign(arguments.outputFolder)) {
         say(stderr, u"Le dossier %1 contient des fichiers qui ne sont pas d’une boutique ; rien n’a été fait."_s.arg(
                         arguments.outputFolder));
         return unusable;
@@ -108,31 +158,9 @@ int run(const Arguments &arguments)
         return unusable;
     }
 
-    QElapsedTimer timer;
-    timer.start();
     RunReport report;
     const ShopData data = readShopData(session, arguments.language, report);
-    ShopFolder folder(arguments.outputFolder, report);
-    if (folder.prepare(arguments.applicationFolder + u"/img"_s)) {
-        folder.copyLogo(data.info(13).trimmed().isEmpty() ? QString() : session.filePath(data.info(13)));
-        if (!data.settings.txtLogo.isEmpty())
-            folder.picture(session.filePath(data.settings.txtLogo), data.settings.txtFile);
-        folder.checkAssets(data);
-        Result read;
-        const Selection selection = AfficherFamille(session.gCnn, read);
-        if (!read)
-            report.add(Incident::StoreNotRead, u"AfficherFamille"_s, read.message());
-        genererBoutique(data, selection, session, folder, report);
-        folder.removeOldFiles();
-    }
-    session.localisation.gbLangueCatalogue = false;
-    for (const Incident &incident : report.incidents())
-        say(stderr, describe(incident, session.localisation));
-    say(stdout, u"%1 : %2 pages, %3 images, %4 s"_s.arg(folder.path())
-                    .arg(folder.pages())
-                    .arg(folder.pictures())
-                    .arg(double(timer.elapsed()) / 1000, 0, 'f', 2));
-    return report.incidents().empty() ? wholeShop : pieceMissing;
+    return arguments.checkOnly ? check(data, session, report) : generate(arguments, data, session, report);
 }
 
 } // namespace

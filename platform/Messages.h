@@ -8,4 +8,8 @@ public:
     virtual ~Messages() = default;
     /// A box with one button.
     virtual void box(const QString &text, const QString &title) = 0;
+    /// A box with Yes and No; true for Yes.
+    virtual bool question(const QString &text, const QString &title) = 0;
+    /// A beep without a window; `text` says what for, and goes to the log.
+    virtual void alert(const QString &text) = 0;
 };

@@ -9,7 +9,7 @@ namespace {
 
 QString keyOf(const QString &section, const QString &name)
 {
-    return section + u'/' + name;
+    return name.isEmpty() ? section : section + u'/' + name;
 }
 
 /// A line edited by hand may hold an unquoted comma, which the reader takes for a list.
@@ -67,6 +67,20 @@ Result SettingsStore::remove(const QString &application, const QString &section,
     QSettings settings(fileName(application), QSettings::IniFormat);
     settings.remove(keyOf(section, name));
     return written(settings);
+}
+
+QStringList SettingsStore::sections(const QString &application, const QString &section) const
+{
+    QSettings settings(fileName(application), QSettings::IniFormat);
+    settings.beginGroup(section);
+    return settings.childGroups();
+}
+
+QStringList SettingsStore::names(const QString &application, const QString &section) const
+{
+    QSettings settings(fileName(application), QSettings::IniFormat);
+    settings.beginGroup(section);
+    return settings.childKeys();
 }
 
 Result SettingsStore::check(const QString &application) const

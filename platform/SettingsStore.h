@@ -2,6 +2,7 @@
 #include "platform/Result.h"
 
 #include <QString>
+#include <QStringList>
 
 /// The user's settings: three levels of names (application key, section, value), strings only. One file per
 /// application key, `<folder>/<application>.ini`, UTF-8, readable by its owner alone.
@@ -20,7 +21,11 @@ public:
     bool contains(const QString &application, const QString &section, const QString &name) const;
     /// Writes at once and whole; on failure the old file stays.
     Result save(const QString &application, const QString &section, const QString &name, const QString &value);
+    /// Removes a value, or with an empty name the whole section.
     Result remove(const QString &application, const QString &section, const QString &name);
+    /// The sections directly below a section, and the names of the values of a section.
+    QStringList sections(const QString &application, const QString &section) const;
+    QStringList names(const QString &application, const QString &section) const;
     /// Whether the file of an application key can be read; a file that does not exist can.
     Result check(const QString &application) const;
 

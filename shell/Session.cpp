@@ -14,7 +14,7 @@ Session::Session(SettingsStore &settingsStore, const Clock &sessionClock, QStrin
 void Session::readSettings()
 {
     const auto stored = [this](const QString &name, const QString &absent) {
-        const QString value = settings.value(SettingsKey::application, SettingsKey::section, name);
+        const QString value = setting(name);
         return value.isEmpty() ? absent : value;
     };
     gsPays = stored(u"PAYS"_s, u"FR"_s);
@@ -22,6 +22,16 @@ void Session::readSettings()
     gsMonnaie = stored(u"MONNAIE"_s, {});
     gsDbPath = stored(u"DB"_s, applicationFolder + u"/zelvantor.mdb"_s);
     gsLogin = stored(u"NomLogin"_s, {});
+}
+
+QString Session::setting(const QString &name) const
+{
+    return settings.value(SettingsKey::application, SettingsKey::section, name);
+}
+
+Result Session::saveSetting(const QString &name, const QString &value)
+{
+    return settings.save(SettingsKey::application, SettingsKey::section, name, value);
 }
 
 QString Session::filePath(const QString &stored) const

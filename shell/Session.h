@@ -6,26 +6,44 @@
 
 #include <QStringList>
 
-/// The values of the session, one user in one process, and the folders that the program works in.
+class Desktop;
+class Messages;
+class Screens;
+
+/// The values of the session, one user in one process, the folders that the program works in, and the seams
+/// through which it meets its surroundings.
 struct Session {
     Session(SettingsStore &settings, const Clock &clock, QString applicationFolder);
 
     SettingsStore &settings;
     const Clock &clock;
     QString applicationFolder;
-    Localisation localisation;
+    Localisation localisation; ///< holds `gsLangue`
+
+    // Set before the first window opens; a run without windows has none of them.
+    Messages *messages = nullptr;
+    Desktop *desktop = nullptr;
+    Screens *screens = nullptr;
 
     QString gsPays;
     QString gsMonnaie;
     QString gsDbPath;
     QString gsLogin;
+    QString gsPassword;
+    QString gsDroits;
     Connection gCnn;
+    Connection gCnnLocal; ///< opened by the main window, read by no screen
+    bool gbPremierLancement = false;
+    bool gbValider = false; ///< how the last modal dialogue ended
     /// The values of REF_INFO in the order of their rows; position 1 is the first.
     QStringList gInfo;
 
     /// Takes country, language, currency, the path of the store and the last user from the settings. What is
     /// not stored is France, French, no currency, the store in the application folder, nobody.
     void readSettings();
+    /// A value of the program's own settings, and its writing.
+    QString setting(const QString &name) const;
+    Result saveSetting(const QString &name, const QString &value);
     /// A path that the store holds: a relative one starts at the folder of the store, so that a shop can be
     /// moved with its pictures.
     QString filePath(const QString &stored) const;

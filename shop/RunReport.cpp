@@ -95,7 +95,9 @@ void RunReport::add(Incident::Kind kind, const QString &piece, const QString &ca
 
 QString describe(const Incident &incident, const Localisation &localisation)
 {
-    const QString line = localisation.Traduire(u"RUN"_s, QString::number(incident.kind));
+    Localisation windows = localisation;
+    windows.gbLangueCatalogue = false;
+    const QString line = windows.Traduire(u"RUN"_s, QString::number(incident.kind));
     return (line.contains(u"%1"_s) ? line : frenchLine(incident.kind))
-        .arg(incident.piece, causeText(incident.cause, localisation));
+        .arg(incident.piece, causeText(incident.cause, windows));
 }

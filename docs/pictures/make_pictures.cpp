@@ -1,0 +1,144 @@
+// Opens every window on the sample shop and saves its picture: make_pictures FOLDER [LANGUAGE]
+// The user guide and the look over all windows use them.
+#include "app/DeskScreens.h"
+#include "catalogue/frmDlgOpenDoc.h"
+#include "reference/frmTrad.h"
+#include "shell/ApplicationFolder.h"
+#include "shell/Skin.h"
+#include "shell/frmAbout.h"
+#include "shell/frmDbPath.h"
+#include "shell/frmLogin.h"
+#include "shell/frmMain.h"
+#include "shell/frmPW.h"
+#include "shell/frmPays.h"
+#include "shell/frmSplash.h"
+#include "shop/frmCatalogue.h"
+#include "shop/frmInfo.h"
+
+#include "platform/Desktop.h"
+#include "platform/Messages.h"
+
+#include <QApplication>
+#include <QDir>
+#include <QListWidget>
+#include <QTabWidget>
+#include <QTemporaryDir>
+
+#include <cstdio>
+
+using namespace Qt::StringLiterals;
+
+namespace {
+
+/// Nothing may wait for a person here.
+class Quiet : public Messages, public Desktop {
+public:
+    void box(const QString &text, const QString &title) override
+    {
+        std::fprintf(stderr, "%s: %s\n", qPrintable(title), qPrintable(text));
+    }
+    bool question(const QString &, const QString &) override { return true; }
+    void alert(const QString &) override {}
+    bool open(const QString &) override { return true; }
+};
+
+void save(QWidget &window, const QString &folder, const QString &name)
+{
+    window.show();
+    QApplication::processEvents();
+    QApplication::processEvents();
+    window.grab().save(folder + u'/' + name + u".png"_s);
+}
+
+void saveCatalogue(Session &session, const QString &folder)
+{
+    frmCatalogue window(session, nullptr);
+    auto *tabs = window.findChild<QTabWidget *>(u"SSTab1"_s);
+    for (int i = 0; i < tabs->count(); ++i) {
+        tabs->setCurrentIndex(i);
+        save(window, folder, u"frmCatalogue-%1"_s.arg(i + 1));
+    }
+}
+
+} // namespace
+
+int main(int argc, char *argv[])
+{
+    if (argc < 2) {
+        std::fprintf(stderr, "usage: make_pictures FOLDER [LANGUAGE]\n");
+        return 2;
+    }
+    QApplication application(argc, argv);
+    QCoreApplication::setApplicationName(u"zelvantor"_s);
+    QCoreApplication::setApplicationVersion(QStringLiteral(ZELVANTOR_VERSION));
+    Skin::apply(application);
+    const QString folder = QString::fromLocal8Bit(argv[1]);
+    QDir().mkpath(folder);
+
+    const QTemporaryDir place;
+    SettingsStore settings(place.filePath(u"settings"_s));
+    const Clock clock;
+    Quiet quiet;
+    Session session(settings, clock, place.filePath(u"data"_s));
+    DeskScreens screens(session);
+    session.messages = &quiet;
+    session.desktop = &quiet;
+    session.screens = &screens;
+    if (const Result filled = ApplicationFolder::fill(ApplicationFolder::delivered(), session.applicationFolder);
+        !filled)
+        quiet.box(filled.text(), u"fill"_s);
+    if (const Result taken = ApplicationFolder::takeSampleSettings(session); !taken)
+        quiet.box(taken.text(), u"sample"_s);
+    session.readSettings();
+    session.gsLogin = u"vendeur"_s;
+    if (argc > 2)
+        session.localisation.gsLangue = QString::fromLocal8Bit(argv[2]);
+    session.gsDbPath = ApplicationFolder::sample(session.applicationFolder) + u"/zelvantor.mdb"_s;
+    if (const Result opened = session.gCnn.open(connectionText(session.gsDbPath)); !opened)
+        quiet.box(opened.text(), session.gsDbPath);
+
+    {
+        frmPays window(session, nullptr);
+        save(window, folder, u"frmPays"_s);
+    }
+    {
+        frmDbPath window(session, nullptr);
+        save(window, folder, u"frmDbPath"_s);
+        session.gsDbPath = ApplicationFolder::sample(session.applicationFolder) + u"/zelvantor.mdb"_s;
+    }
+    {
+        frmLogin window(session, nullptr);
+        save(window, folder, u"frmLogin"_s);
+    }
+    {
+        frmSplash window;
+        save(window, folder, u"frmSplash"_s);
+    }
+    {
+        frmMain window(session);
+        window.resize(1000, 640);
+        save(window, folder, u"frmMain"_s);
+    }
+    {
+        frmPW window(session, nullptr);
+        save(window, folder, u"frmPW"_s);
+    }
+    {
+        frmAbout window(session, nullptr);
+        save(window, folder, u"frmAbout"_s);
+    }
+    {
+        frmInfo window(session, nullptr);
+        save(window, folder, u"frmInfo"_s);
+    }
+    {
+        frmTrad window(session, u"CATALOG"_s, u"Catalogue"_s, nullptr);
+        save(window, folder, u"frmTrad"_s);
+    }
+    {
+        frmDlgOpenDoc window(session, nullptr);
+        save(window, folder, u"frmDlgOpenDoc"_s);
+    }
+    saveCatalogue(session, folder);
+    return 0;
+}

@@ -1,0 +1,85 @@
+#include "reference/frmTrad.h"
+
+#include "platform/IniFile.h"
+#include "platform/Messages.h"
+#include "reference/TranslationRule.h"
+#include "ui_frmTrad.h"
+
+using namespace Qt::StringLiterals;
+
+namespace {
+
+enum Column { Key = 1, Text };
+
+}
+
+frmTrad::frmTrad(Session &screenSession, const QString &Tag, const QString &caption, QWidget *parent)
+    : Screen(screenSession, parent), m_ui(std::make_unique<Ui::frmTrad>()), m_section(Tag)
+{
+    m_ui->setupUi(this);
+    Spread &grid = *m_ui->fpSpread1;
+    grid.resizeGrid(0, Text);
+    grid.cells().setColumnType(Key, SpreadModel::CellType::Locked);
+    grid.setText(Key, 0, u"Clé"_s);
+    grid.setText(Text, 0, u"Libellé"_s);
+    connect(m_ui->cmdValider0, &QPushButton::clicked, this, &frmTrad::validate);
+    connect(m_ui->cmdFermer, &QPushButton::clicked, this, &frmTrad::reject);
+    opened();
+    const auto give = [this](QPushButton &button, const QString &key) {
+        if (const QString text = session().localisation.Traduire(u"MVT"_s, key); !text.trimmed().isEmpty())
+            button.setText(text);
+    };
+    give(*m_ui->cmdValider0, u"11"_s);
+    give(*m_ui->cmdFermer, u"12"_s);
+    if (const QString text = session().localisation.Traduire(u"PARAM"_s, u"28"_s); !text.trimmed().isEmpty())
+        m_ui->lbTitre->setText(text);
+    setProperty("Tag", m_section);
+    setWindowTitle(caption);
+    Afficher();
+    session().gbValider = false;
+}
+
+frmTrad::~frmTrad() = default;
+
+void frmTrad::Afficher()
+{
+    IniFile file;
+    if (const Result loaded = file.load(session().localisation.fileName(session().localisation.gsLangue)); !loaded)
+        session().messages->box(loaded.message(), u"Afficher"_s);
+    Spread &grid = *m_ui->fpSpread1;
+    int row = 0;
+    for (const QString &key : file.keys(m_section)) {
+        const QString text = file.value(m_section, key);
+        if (key.isEmpty() || text.trimmed().isEmpty())
+            continue;
+        grid.resizeGrid(++row, Text);
+        grid.setText(Key, row, key);
+        grid.setText(Text, row, text);
+    }
+}
+
+Result frmTrad::Ajouter()
+{
+    const QString path = session().localisation.fileName(session().localisation.gsLangue);
+    IniFile file;
+    if (Result loaded = file.load(path); !loaded)
+        return loaded;
+    const Spread &grid = *m_ui->fpSpread1;
+    for (int row = 1; row <= grid.MaxRows(); ++row) {
+        const QString key = grid.text(Key, row);
+        const QString text = grid.text(Text, row);
+        if (mayTranslate(m_section, key, text))
+            file.setValue(m_section, key, text);
+    }
+    return file.save(path);
+}
+
+void frmTrad::validate()
+{
+    if (const Result written = Ajouter(); !written) {
+        session().messages->box(written.message(), u"Ajouter"_s);
+        return;
+    }
+    session().gbValider = true;
+    accept();
+}

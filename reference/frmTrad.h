@@ -1,0 +1,28 @@
+#pragma once
+#include "shell/Screen.h"
+
+#include <memory>
+
+namespace Ui {
+class frmTrad;
+}
+
+/// The texts of one window, changed in place in the language file.
+class frmTrad : public Screen {
+    Q_OBJECT
+public:
+    /// `Tag` is the section of the window it was opened from, `caption` that window's.
+    frmTrad(Session &session, const QString &Tag, const QString &caption, QWidget *parent);
+    ~frmTrad() override;
+
+    /// Fills the grid with the keys that have a text.
+    void Afficher();
+    /// Writes the grid back.
+    Result Ajouter();
+
+private:
+    void validate();
+
+    std::unique_ptr<Ui::frmTrad> m_ui;
+    QString m_section;
+};

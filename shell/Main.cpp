@@ -1,0 +1,100 @@
+#include "shell/Main.h"
+
+#include "data/DataSource.h"
+#include "data/clsConnection.h"
+#include "platform/Messages.h"
+#include "shell/frmDbPath.h"
+#include "shell/frmLogin.h"
+#include "shell/frmMain.h"
+#include "shell/frmPays.h"
+#include "shell/frmSplash.h"
+
+#include <QApplication>
+#include <QTimer>
+
+using namespace Qt::StringLiterals;
+
+namespace {
+
+/// The first start asks for country, language and currency, over the delivered store. False when there is none.
+bool askRegionalSettings(Session &session)
+{
+    session.gsLogin = u"admin"_s;
+    session.gsPassword.clear();
+    session.gbPremierLancement = true;
+    clsConnection connection(*session.messages, session.gsDbPath);
+    connection.Modeconnect = u"L"_s;
+    connection.sLogin = session.gsLogin;
+    connection.sPassWord = session.gsPassword;
+    connection.Init_connect();
+    if (!connection.bLogin()) {
+        session.messages->box(u"Database access failed"_s, u"ZELVANTOR"_s);
+        session.gCnn = Connection();
+        return false;
+    }
+    session.gCnn = connection.connectdb();
+    frmPays(session, nullptr).exec();
+    session.gCnn = Connection();
+    return true;
+}
+
+bool readRegionalSettings(Session &session)
+{
+    session.gbPremierLancement = false;
+    session.gsDbPath = session.applicationFolder + u"/zelvantor.mdb"_s;
+    session.gsPays = session.setting(u"PAYS"_s);
+    const QString language = session.setting(u"LANGUE"_s);
+    session.gsMonnaie = session.setting(u"MONNAIE"_s);
+    if (!language.isEmpty())
+        session.localisation.gsLangue = language;
+    const bool complete = !session.gsMonnaie.isEmpty() && !language.isEmpty() && !session.gsPays.isEmpty();
+    if (!complete && !askRegionalSettings(session))
+        return false;
+    if (session.gsPays.isEmpty()) {
+        session.gsPays = u"FR"_s;
+        session.localisation.gsLangue = u"FR"_s;
+    }
+    return true;
+}
+
+bool findStore(Session &session)
+{
+    session.gsDbPath = session.setting(u"DB"_s);
+    session.gbValider = true;
+    if (session.gsDbPath.isEmpty())
+        frmDbPath(session, nullptr).exec();
+    return session.gbValider;
+}
+
+/// The orderly end: the main window is gone when the timer fires, and nothing is left to wait for.
+void endWithTimer()
+{
+    QTimer::singleShot(100, qApp, [] { QApplication::exit(0); });
+}
+
+} // namespace
+
+std::unique_ptr<frmMain> Main(Session &session)
+{
+    if (!readRegionalSettings(session))
+        return nullptr;
+    if (const Result registered = registerDataSource(session.settings, QString()); !registered)
+        session.messages->box(registered.message(), u"ZELVANTOR"_s);
+    if (!findStore(session))
+        return nullptr;
+    {
+        frmLogin login(session, nullptr);
+        login.exec();
+        if (!login.LoginSucceeded)
+            return nullptr;
+    }
+    frmSplash splash;
+    splash.show();
+    splash.repaint();
+    QApplication::processEvents(QEventLoop::ExcludeUserInputEvents);
+    auto window = std::make_unique<frmMain>(session);
+    QObject::connect(window.get(), &frmMain::ended, qApp, endWithTimer);
+    splash.close();
+    window->show();
+    return window;
+}

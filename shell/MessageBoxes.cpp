@@ -1,0 +1,36 @@
+#include "shell/MessageBoxes.h"
+
+#include <QApplication>
+#include <QDesktopServices>
+#include <QLoggingCategory>
+#include <QMessageBox>
+#include <QUrl>
+
+Q_LOGGING_CATEGORY(logShell, "zelvantor.shell", QtWarningMsg)
+
+void MessageBoxes::box(const QString &text, const QString &title)
+{
+    qCInfo(logShell).noquote() << title << text;
+    QMessageBox message(QMessageBox::Information, title, text, QMessageBox::Ok, QApplication::activeWindow());
+    message.setTextFormat(Qt::PlainText);
+    message.exec();
+}
+
+bool MessageBoxes::question(const QString &text, const QString &title)
+{
+    QMessageBox message(QMessageBox::Question, title, text, QMessageBox::Yes | QMessageBox::No,
+                        QApplication::activeWindow());
+    message.setTextFormat(Qt::PlainText);
+    return message.exec() == QMessageBox::Yes;
+}
+
+void MessageBoxes::alert(const QString &text)
+{
+    qCInfo(logShell).noquote() << text;
+    QApplication::beep();
+}
+
+bool DesktopServices::open(const QString &fileOrAddress)
+{
+    return QDesktopServices::openUrl(QUrl::fromUserInput(fileOrAddress));
+}

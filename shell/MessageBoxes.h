@@ -1,0 +1,17 @@
+#pragma once
+#include "platform/Desktop.h"
+#include "platform/Messages.h"
+
+/// Messages as windows.
+class MessageBoxes : public Messages {
+public:
+    void box(const QString &text, const QString &title) override;
+    bool question(const QString &text, const QString &title) override;
+    void alert(const QString &text) override;
+};
+
+/// The desktop's own way of opening things.
+class DesktopServices : public Desktop {
+public:
+    bool open(const QString &fileOrAddress) override;
+};

@@ -1,0 +1,91 @@
+#include "shell/Screen.h"
+
+#include "shell/ChargerLangue.h"
+#include "shell/Screens.h"
+
+#include <QContextMenuEvent>
+#include <QMenu>
+#include <QMouseEvent>
+#include <QShortcut>
+#include <QSplitter>
+
+using namespace Qt::StringLiterals;
+
+namespace {
+
+const QString windowsApplication = u"ZELVANTOR"_s; // the title of the program, which is also a settings key
+
+QString translateText(const Session &session)
+{
+    const QString text = session.localisation.Traduire(u"MAIN"_s, u"miTraduire"_s);
+    return text.isEmpty() ? u"Traduire cette fenêtre..."_s : text;
+}
+
+} // namespace
+
+void ScreenManners::loadTexts(QWidget &window, const Session &session)
+{
+    ChargerLangue(window, session.localisation);
+}
+
+void ScreenManners::apply(QWidget &window, Session &session)
+{
+    loadTexts(window, session);
+    const auto stored = [&](const QString &name) {
+        return QByteArray::fromBase64(session.settings.value(windowsApplication, window.objectName(), name).toLatin1());
+    };
+    window.restoreGeometry(stored(u"Geometry"_s));
+    for (QSplitter *splitter : window.findChildren<QSplitter *>())
+        splitter->restoreState(stored(splitter->objectName()));
+    auto *shortcut = new QShortcut(QKeySequence(Qt::Key_F12), &window);
+    QObject::connect(shortcut, &QShortcut::activated, &window, [&] { translate(window, session); });
+}
+
+void ScreenManners::translate(QWidget &window, Session &session)
+{
+    if (session.screens && session.screens->translate(&window))
+        loadTexts(window, session);
+}
+
+void ScreenManners::remember(const QWidget &window, Session &session)
+{
+    // A size that can't be kept is no reason for a message.
+    const auto keep = [&](const QString &name, const QByteArray &state) {
+        (void)session.settings.save(windowsApplication, window.objectName(), name,
+                                    QString::fromLatin1(state.toBase64()));
+    };
+    keep(u"Geometry"_s, window.saveGeometry());
+    for (const QSplitter *splitter : window.findChildren<QSplitter *>())
+        keep(splitter->objectName(), splitter->saveState());
+}
+
+Screen::Screen(Session &screenSession, QWidget *parent) : QDialog(parent), m_session(screenSession) {}
+
+void Screen::opened()
+{
+    setSizeGripEnabled(true);
+    ScreenManners::apply(*this, m_session);
+}
+
+void Screen::done(int result)
+{
+    ScreenManners::remember(*this, m_session);
+    QDialog::done(result);
+}
+
+void Screen::mousePressEvent(QMouseEvent *event)
+{
+    if (event->button() == Qt::RightButton && event->modifiers() == Qt::ControlModifier)
+        ScreenManners::translate(*this, m_session);
+    else
+        QDialog::mousePressEvent(event);
+}
+
+void Screen::contextMenuEvent(QContextMenuEvent *event)
+{
+    if (event->modifiers() == Qt::ControlModifier)
+        return;
+    QMenu menu(this);
+    menu.addAction(translateText(m_session), this, [this] { ScreenManners::translate(*this, m_session); });
+    menu.exec(event->globalPos());
+}

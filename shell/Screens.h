@@ -1,0 +1,28 @@
+#pragma once
+#include <QString>
+#include <optional>
+
+class QWidget;
+
+/// A file that a person picked: its full path and its bare name.
+struct PickedFile {
+    QString path;
+    QString name;
+};
+
+/// Opens the screens of other rooms for a room that may not know them.
+class Screens {
+public:
+    virtual ~Screens() = default;
+
+    virtual void showCatalogue(QWidget *parent) = 0; ///< the shop
+    virtual void showInfo(QWidget *parent) = 0;      ///< the company data
+    /// The product list beside the frame, the reference trees and the FTP client; false while there is none.
+    virtual bool showProducts(QWidget *parent) = 0;
+    virtual bool showTree(QWidget *parent, bool bCategorie) = 0;
+    virtual bool showFtp(QWidget *parent) = 0;
+    /// The file dialogue as the picker of one picture; nothing when it was left.
+    virtual std::optional<PickedFile> pickPicture(QWidget *parent) = 0;
+    /// The translations of a window; true when they were changed.
+    virtual bool translate(QWidget *window) = 0;
+};

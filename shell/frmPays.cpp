@@ -1,0 +1,58 @@
+#include "shell/frmPays.h"
+
+#include "platform/Messages.h"
+#include "ui_frmPays.h"
+
+using namespace Qt::StringLiterals;
+
+frmPays::frmPays(Session &screenSession, QWidget *parent)
+    : Screen(screenSession, parent), m_ui(std::make_unique<Ui::frmPays>())
+{
+    m_ui->setupUi(this);
+    fill(*m_ui->cbPays, u"SELECT CODE, PAYS_EN FROM REF_PAYS_ISO ORDER BY PAYS_EN"_s, m_colPays, session().gsPays);
+    fill(*m_ui->cbLangue, u"SELECT * FROM REF_LANGUE_U ORDER BY LANGUE"_s, m_colLangue,
+         session().localisation.gsLangue);
+    fill(*m_ui->cbMonnaie, u"SELECT * FROM REF_DEVISE"_s, m_colMonnaie, session().gsMonnaie);
+    connect(m_ui->cmdValider, &QPushButton::clicked, this, &frmPays::validate);
+    connect(m_ui->cmdFermer, &QPushButton::clicked, this, &frmPays::reject);
+    opened();
+}
+
+frmPays::~frmPays() = default;
+
+void frmPays::fill(QComboBox &list, const QString &statement, std::vector<QString> &keys, const QString &selected)
+{
+    keys.clear();
+    Reader rows = session().gCnn.read(statement);
+    while (rows.next()) {
+        if (rows.isNull(0))
+            continue;
+        keys.push_back(rows.text(0));
+        list.addItem(rows.text(1));
+        if (keys.back() == selected)
+            list.setCurrentIndex(list.count() - 1);
+    }
+    if (!rows.result())
+        session().messages->box(rows.result().message(), u"RemplirCB"_s);
+}
+
+void frmPays::validate()
+{
+    const auto take = [](const QComboBox &list, const std::vector<QString> &keys, QString &value) {
+        if (list.currentIndex() >= 0)
+            value = keys[size_t(list.currentIndex())];
+    };
+    take(*m_ui->cbPays, m_colPays, session().gsPays);
+    take(*m_ui->cbLangue, m_colLangue, session().localisation.gsLangue);
+    take(*m_ui->cbMonnaie, m_colMonnaie, session().gsMonnaie);
+    const std::pair<QString, QString> values[] = {{u"PAYS"_s, session().gsPays},
+                                                  {u"LANGUE"_s, session().localisation.gsLangue},
+                                                  {u"MONNAIE"_s, session().gsMonnaie}};
+    for (const auto &[name, value] : values) {
+        if (const Result saved = session().saveSetting(name, value); !saved) {
+            session().messages->box(saved.message(), u"frmPays"_s);
+            return;
+        }
+    }
+    accept();
+}

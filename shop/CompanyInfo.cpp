@@ -1,0 +1,42 @@
+#include "shop/CompanyInfo.h"
+
+using namespace Qt::StringLiterals;
+
+namespace {
+
+QString doubled(QString text)
+{
+    return text.replace(u"'"_s, u"''"_s);
+}
+
+} // namespace
+
+std::vector<InfoRow> CompanyInfo::read(Connection &connection, Result &result)
+{
+    std::vector<InfoRow> rows;
+    Reader reader = connection.read(u"SELECT REF_Info.idInfo, REF_Info.sInfo, REF_Info.sValeur From REF_Info "_s);
+    while (reader.next())
+        rows.push_back({reader.text(0), reader.text(1), reader.text(2)});
+    result = reader.result();
+    return rows;
+}
+
+Result CompanyInfo::write(const std::vector<InfoRow> &rows, Session &session)
+{
+    // The rows are gone when the first statement fails to be followed by the others, so it must not be tried on a
+    // store that refuses writing.
+    Result first = session.gCnn.execute(u"DELETE REF_INFO.* FROM REF_INFO;"_s);
+    if (!first)
+        return first;
+    for (const InfoRow &row : rows) {
+        if (row.sInfo.trimmed().isEmpty())
+            continue;
+        const Result inserted =
+            session.gCnn.execute(u"INSERT INTO REF_INFO (idInfo, sInfo, sValeur) Values ("_s + row.idInfo + u", '"_s
+                                 + doubled(row.sInfo) + u"' , '"_s + doubled(row.sValeur) + u"'); "_s);
+        if (first && !inserted)
+            first = inserted;
+    }
+    const Result read = AfficherInfo(session);
+    return first ? read : first;
+}

@@ -1,0 +1,22 @@
+#pragma once
+#include "shell/Session.h"
+
+#include <vector>
+
+/// A row of REF_INFO.
+struct InfoRow {
+    QString idInfo;
+    QString sInfo;
+    QString sValeur;
+};
+
+/// The company data, which is read and rewritten as a whole.
+namespace CompanyInfo {
+
+std::vector<InfoRow> read(Connection &connection, Result &result);
+
+/// Deletes all rows and writes those with a label again, a row that fails leaving the others; then refills
+/// `gInfo`. A row without a label falls out, and all later positions move up. The result is the first failure.
+Result write(const std::vector<InfoRow> &rows, Session &session);
+
+} // namespace CompanyInfo

@@ -1,0 +1,228 @@
+#include "shop/ShopCheck.h"
+
+#include "platform/CodePage.h"
+
+#include <QFileInfo>
+#include <QHash>
+#include <QSet>
+
+#include <algorithm>
+
+using namespace Qt::StringLiterals;
+
+namespace {
+
+bool holdsAny(const QString &text, QStringView characters)
+{
+    return std::any_of(text.begin(), text.end(), [&](QChar c) { return characters.contains(c); });
+}
+
+bool losesCharacters(const QString &text)
+{
+    int lost = 0;
+    CodePage::encode(text, &lost);
+    return lost > 0;
+}
+
+class Check {
+public:
+    Check(const ShopData &data, const Selection &selection, Session &session)
+        : m_data(data), m_selection(selection), m_session(session)
+    {
+    }
+
+    std::vector<Finding> run()
+    {
+        settings();
+        company();
+        groups();
+        products();
+        pictures();
+        return std::move(m_findings);
+    }
+
+private:
+    void add(Finding::Kind kind, const QString &subject, const QString &control = {})
+    {
+        m_findings.push_back({kind, subject, control});
+    }
+
+    void settings()
+    {
+        const ShopSettings &s = m_data.settings;
+        if (s.txtMin.trimmed().isEmpty())
+            add(Finding::NoMinimumOrder, {}, u"txtMin"_s);
+        if (!s.chGratuit)
+            for (const ShippingMethod &method : s.fpSpread12)
+                if (method.value.contains(u','))
+                    add(Finding::CommaInShippingPrice, method.name, u"fpSpread12"_s);
+        if (holdsAny(s.txtTitre, u"\"\\"))
+            add(Finding::QuoteInName, s.txtTitre, u"txtTitre"_s);
+        if (s.txtPPEmail.trimmed().isEmpty())
+            add(Finding::NoPaymentAccount, {}, u"txtPPEmail"_s);
+        else if (s.txtPPEmail == DeliveredPayment::account)
+            add(Finding::DeliveredPaymentAccount, s.txtPPEmail, u"txtPPEmail"_s);
+        const std::pair<QString, QString> texts[] = {{u"txtTitre"_s, s.txtTitre},
+                                                     {u"txtmessage"_s, s.txtmessage},
+                                                     {u"txtModalite"_s, s.txtModalite},
+                                                     {u"txtExpedition"_s, s.txtExpedition},
+                                                     {u"txtPrivacy"_s, s.txtPrivacy},
+                                                     {u"txtKeyword"_s, s.txtKeyword},
+                                                     {u"txtDescription"_s, s.txtDescription}};
+        for (const auto &[control, text] : texts)
+            if (losesCharacters(text))
+                add(Finding::CharactersLost, text.left(40), control);
+    }
+
+    /// The lines that the contact page and the checkouts show.
+    void company()
+    {
+        for (const int position : {1, 2, 4, 5, 7, 8, 9})
+            if (m_data.info(position).trimmed().isEmpty())
+                add(Finding::EmptyCompanyLine, QString::number(position));
+    }
+
+    void groups()
+    {
+        for (const SelectionRow &row : m_selection.rows) {
+            if (!row.ticked)
+                continue;
+            if (row.name.contains(u'\''))
+                add(Finding::ApostropheInGroup, row.name, u"fpSpread2"_s);
+            if (holdsAny(row.name, u"\"\\"))
+                add(Finding::QuoteInName, row.name, u"fpSpread2"_s);
+            if (losesCharacters(row.name))
+                add(Finding::CharactersLost, row.name, u"fpSpread2"_s);
+        }
+    }
+
+    QSet<qint64> publishedFamilies() const
+    {
+        QSet<qint64> families;
+        for (const SelectionRow &group : m_selection.rows)
+            for (int i = group.first; group.idCategorie && group.ticked && i <= group.last; ++i)
+                if (const SelectionRow &row = m_selection.rows[size_t(i)]; row.ticked && row.idFamille)
+                    families.insert(*row.idFamille);
+        return families;
+    }
+
+    void products()
+    {
+        const QSet<qint64> families = publishedFamilies();
+        const QString code = m_data.language.sLangueHtm;
+        Reader row = m_session.gCnn.read(u"SELECT idProduit, idFamille, sRef, sNom"_s + code
+                                         + u", sPrixVenteTTC, sObservation"_s + code + u" FROM T_PRODUIT"_s);
+        while (row.next()) {
+            if (!families.contains(row.integer(1)))
+                continue;
+            const QString reference = row.text(2);
+            m_published.insert(row.integer(0), reference);
+            product(reference, row.text(3), row.text(4), row.text(5));
+        }
+        if (!row.result())
+            add(Finding::CatalogueNotRead, row.result().message());
+    }
+
+    void product(const QString &reference, const QString &name, const QString &price, const QString &description)
+    {
+        if (name.trimmed().isEmpty())
+            add(Finding::NoName, reference);
+        if (price.trimmed().isEmpty())
+            add(Finding::NoPrice, reference);
+        if (holdsAny(name, u"\"\\"))
+            add(Finding::QuoteInName, reference + u" / "_s + name);
+        if (name.contains(u'|'))
+            add(Finding::BarInName, reference + u" / "_s + name);
+        if (holdsAny(reference, u"@'"))
+            add(Finding::SignInReference, reference);
+        if (losesCharacters(name) || losesCharacters(description))
+            add(Finding::CharactersLost, reference + u" / "_s + name);
+        const QString page = QString(reference).remove(u'/');
+        if (const auto other = m_pages.constFind(page); other != m_pages.constEnd())
+            add(Finding::ReferencesMeet, *other + u", "_s + reference);
+        else
+            m_pages.insert(page, reference);
+    }
+
+    void pictures()
+    {
+        Reader row = m_session.gCnn.read(u"SELECT idProduit, sImage FROM T_PRODUIT_IMAGE WHERE iSmall = 0"_s);
+        while (row.next()) {
+            const auto product = m_published.constFind(row.integer(0));
+            if (product == m_published.constEnd() || row.isNull(1))
+                continue;
+            const QString path = m_session.filePath(row.text(1));
+            const QString name = path.mid(std::max(path.lastIndexOf(u'/'), path.lastIndexOf(u'\\')) + 1);
+            if (const QString other = m_pictures.value(name); other.isEmpty())
+                m_pictures.insert(name, path);
+            else if (other != path)
+                add(Finding::PicturesOfOneName, *product + u" / "_s + name);
+            if (!QFileInfo(path).isFile())
+                add(Finding::PictureGone, *product + u" / "_s + path);
+        }
+        if (!row.result())
+            add(Finding::CatalogueNotRead, row.result().message());
+    }
+
+    const ShopData &m_data;
+    const Selection &m_selection;
+    Session &m_session;
+    std::vector<Finding> m_findings;
+    QHash<qint64, QString> m_published; ///< references of the products that get a page
+    QHash<QString, QString> m_pages;
+    QHash<QString, QString> m_pictures;
+};
+
+QString frenchLine(Finding::Kind kind)
+{
+    switch (kind) {
+    case Finding::NoMinimumOrder:
+        return u"La commande minimum est vide : sans elle, le panier de la boutique ne marche pas. Mettez au moins 0."_s;
+    case Finding::CommaInShippingPrice:
+        return u"Le prix du transport « %1 » contient une virgule : écrivez-le avec un point."_s;
+    case Finding::ApostropheInGroup:
+        return u"Le nom de groupe « %1 » contient une apostrophe droite : le menu de la boutique ne marcherait pas."_s;
+    case Finding::QuoteInName:
+        return u"« %1 » contient un guillemet droit ou une barre inverse : la recherche de la boutique ne marcherait pas."_s;
+    case Finding::BarInName:
+        return u"Le nom « %1 » contient le signe « | », qui coupe sa ligne dans le panier."_s;
+    case Finding::SignInReference:
+        return u"La référence « %1 » contient une apostrophe ou un « @ », qui sont changés dans les listes."_s;
+    case Finding::ReferencesMeet:
+        return u"Ces références donnent la même page, la dernière reste : %1"_s;
+    case Finding::PicturesOfOneName:
+        return u"Deux images différentes portent le même nom de fichier, la dernière reste : %1"_s;
+    case Finding::PictureGone:
+        return u"Image introuvable : %1"_s;
+    case Finding::CharactersLost:
+        return u"« %1 » contient des caractères que les pages ne peuvent pas montrer ; ils deviennent « ? »."_s;
+    case Finding::NoName:
+        return u"L’article %1 n’a pas de nom dans la langue de la boutique."_s;
+    case Finding::NoPrice:
+        return u"L’article %1 n’a pas de prix de vente."_s;
+    case Finding::EmptyCompanyLine:
+        return u"La ligne %1 des données de la société est vide ; elle paraît dans la page Contact."_s;
+    case Finding::NoPaymentAccount:
+        return u"Le compte PayPal est vide : les paiements n’arriveraient nulle part."_s;
+    case Finding::DeliveredPaymentAccount:
+        return u"Le compte PayPal est encore celui d’origine (%1) : mettez le vôtre."_s;
+    case Finding::CatalogueNotRead:
+        return u"Le catalogue n’a pas pu être lu : %1"_s;
+    }
+    return {};
+}
+
+} // namespace
+
+std::vector<Finding> checkShop(const ShopData &data, const Selection &selection, Session &session)
+{
+    return Check(data, selection, session).run();
+}
+
+QString describe(const Finding &finding, const Localisation &localisation)
+{
+    Localisation windows = localisation;
+    windows.gbLangueCatalogue = false;
+    const QString line = windows.Traduire(u"CHECK"_s, QString::number(finding.kind));
+    return QString(line.isEmpty() ? frenchLine(finding.kind) : line).replace(u"%1"_s, finding.subject);
+}
