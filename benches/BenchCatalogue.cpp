@@ -31,10 +31,9 @@ QString description(int product)
            "fait son charme.</p><ul><li>Passe au lave&#45;vaisselle</li><li>Contenance réelle de %2 cl</li><li>Poids "
            "&agrave; vide : %3 g</li></ul><p>Livrée dans un étui de carton recyclé, avec une carte d’entretien en six "
            "langues. Une garantie de deux ans couvre les défauts de fabrication ; les chocs et les écarts brusques "
-           "de température n’en font pas partie.</p>"_s
-        .arg(product)
-        .arg(product % 90 + 10)
-        .arg(product % 400 + 120);
+           "de température n’en font pas partie.</p>"_s.arg(product)
+               .arg(product % 90 + 10)
+               .arg(product % 400 + 120);
 }
 
 void addTree(Store &store, int products)
@@ -66,10 +65,11 @@ void addProduct(Store &store, int p)
                    .arg(p, 6, 10, QChar(u'0'))),
            u"product"_s);
     for (int a = 0; a < attributesOfSubGroup; ++a)
-        demand(store.execute(u"INSERT INTO REF_EXTENSION VALUES (%1, %2, 'Valeur %3')"_s.arg(1000000 + subGroup * 10 + a)
-                                 .arg(p + 1)
-                                 .arg(p % 7)),
-               u"attribute"_s);
+        demand(
+            store.execute(u"INSERT INTO REF_EXTENSION VALUES (%1, %2, 'Valeur %3')"_s.arg(1000000 + subGroup * 10 + a)
+                              .arg(p + 1)
+                              .arg(p % 7)),
+            u"attribute"_s);
 }
 
 void addPictures(Store &store, const QString &folder, int product, int size)
@@ -96,7 +96,7 @@ void copyDelivered(const QString &folder)
         QFile::copy(img.filePath(name), folder + u"/img/"_s + name);
 }
 
-}
+} // namespace
 
 void BenchCatalogue::make(const QString &folder, int products, int pictureSize)
 {

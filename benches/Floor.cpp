@@ -110,7 +110,7 @@ std::vector<Product> productsOf(Statement &statement, sqlite3_int64 family)
     return products;
 }
 
-}
+} // namespace
 
 size_t Floor::generate(const std::string &store, const std::string &out, const Pieces &pieces, bool pictures)
 {
@@ -122,14 +122,16 @@ size_t Floor::generate(const std::string &store, const std::string &out, const P
     std::string search;
     {
         Statement families(db, "SELECT DISTINCT idFamille, idCategorie FROM T_PRODUIT WHERE idFamille > ?");
-        Statement list(db, "SELECT idProduit, sRef, sNomFR, sPrixVenteTTC, sObservationFR FROM T_PRODUIT WHERE idFamille = ?");
+        Statement list(
+            db, "SELECT idProduit, sRef, sNomFR, sPrixVenteTTC, sObservationFR FROM T_PRODUIT WHERE idFamille = ?");
         Statement images(db, "SELECT sImage FROM T_PRODUIT_IMAGE WHERE idProduit = ?");
         Statement labels(db, "SELECT idRef_Categorie, sLibelle FROM REF_CATEGORIE_P WHERE idRef_parent = ?");
         Statement values(db, "SELECT idRef_Categorie, sValeur FROM REF_EXTENSION WHERE idRef_Produit = ?");
         const auto finish = [&](const std::string &name, const std::string &page) {
             const std::string bytes = encoded(page);
             writeFile(out + "/" + name, bytes);
-            search += "array_files[0]=new Array(0,\"HTM\",\"" + name + "\",\"\",\"\",\"\",\"" + withoutTags(bytes) + "\");\r\n";
+            search += "array_files[0]=new Array(0,\"HTM\",\"" + name + "\",\"\",\"\",\"\",\"" + withoutTags(bytes)
+                      + "\");\r\n";
             total += bytes.size();
         };
         families.start(0);
@@ -146,7 +148,7 @@ size_t Floor::generate(const std::string &store, const std::string &out, const P
                 values.start(p.id);
                 while (values.next() && n < captions.size())
                     table += "<tr>\r\n<td width=\"250\" bgcolor=\"#CCCCFF\"><b>" + captions[n++]
-                        + "</b></td>\r\n<td bgcolor=\"#CCCCFF\">" + values.text(1) + "</td>\r\n</tr>\r\n";
+                             + "</b></td>\r\n<td bgcolor=\"#CCCCFF\">" + values.text(1) + "</td>\r\n</tr>\r\n";
                 images.start(p.id);
                 while (images.next()) {
                     const std::string path = images.text(0);

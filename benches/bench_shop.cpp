@@ -127,7 +127,7 @@ double measure(const char *name, int products, int pictureSize)
     return first.seconds / products;
 }
 
-}
+} // namespace
 
 int main()
 {

@@ -66,7 +66,7 @@ double throughConnection(const QString &path)
     return seconds;
 }
 
-}
+} // namespace
 
 int main()
 {

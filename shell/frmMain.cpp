@@ -34,6 +34,7 @@ frmMain::frmMain(Session &session, QWidget *parent)
     : QMainWindow(parent), m_session(session), m_ui(std::make_unique<Ui::frmMain>()), m_user(new QLabel(this)),
       m_connect(new QLabel(this))
 {
+    QLocale::setDefault(QLocale::c());
     m_ui->setupUi(this);
     AjouterBT();
     ScreenManners::loadTexts(*this, m_session);
@@ -221,6 +222,7 @@ void frmMain::openHelp()
 void frmMain::closeEvent(QCloseEvent *event)
 {
     event->accept();
+    QLocale::setDefault(m_userLocale);
     Q_EMIT ended();
 }
 

@@ -1,6 +1,7 @@
 #pragma once
 #include "shell/Session.h"
 
+#include <QLocale>
 #include <QMainWindow>
 #include <array>
 #include <memory>
@@ -49,4 +50,5 @@ private:
     QStringList m_remarks;               ///< REF_REMARQUE in the order of its rows
     std::array<QString, 6> m_mailServer; ///< no screen sends mail with it
     bool m_isAdmin = false;
+    QLocale m_userLocale; ///< what the numbers looked like before the session forced the point
 };
