@@ -9,7 +9,9 @@ frmPays::frmPays(Session &screenSession, QWidget *parent)
     : Screen(screenSession, parent), m_ui(std::make_unique<Ui::frmPays>())
 {
     m_ui->setupUi(this);
-    fill(*m_ui->cbPays, u"SELECT CODE, PAYS_EN FROM REF_PAYS_ISO ORDER BY PAYS_EN"_s, m_colPays, session().gsPays);
+    // Where nothing is stored yet the country is France, as everywhere in the session.
+    const QString country = session().gsPays.isEmpty() ? u"FR"_s : session().gsPays;
+    fill(*m_ui->cbPays, u"SELECT CODE, PAYS_EN FROM REF_PAYS_ISO ORDER BY PAYS_EN"_s, m_colPays, country);
     fill(*m_ui->cbLangue, u"SELECT * FROM REF_LANGUE_U ORDER BY LANGUE"_s, m_colLangue,
          session().localisation.gsLangue);
     fill(*m_ui->cbMonnaie, u"SELECT * FROM REF_DEVISE"_s, m_colMonnaie, session().gsMonnaie);

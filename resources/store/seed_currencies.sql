@@ -1,9 +1,11 @@
 -- Currencies: the alphabetic codes of ISO 4217 in force in 2026, with their English names.
 -- Source: Debian package iso-codes 4.15.0 (iso_4217.json), brought up to date with the later amendments:
 -- HRK, CUC, SLL, ZWL, ANG and BGN have left the standard, ZWG, XCG and XAD have entered it.
--- The lists of the screens show these rows in store order, hence the order by code.
+-- The lists of the screens show these rows in store order: the euro first, which a first start then proposes, the
+-- others by code.
 
 INSERT INTO REF_DEVISE (CODE, DEVISE) VALUES
+  ('EUR', 'Euro'),
   ('AED', 'UAE Dirham'),
   ('AFN', 'Afghani'),
   ('ALL', 'Lek'),
@@ -49,7 +51,6 @@ INSERT INTO REF_DEVISE (CODE, DEVISE) VALUES
   ('EGP', 'Egyptian Pound'),
   ('ERN', 'Nakfa'),
   ('ETB', 'Ethiopian Birr'),
-  ('EUR', 'Euro'),
   ('FJD', 'Fiji Dollar'),
   ('FKP', 'Falkland Islands Pound'),
   ('GBP', 'Pound Sterling'),
