@@ -44,3 +44,24 @@ Reader Connection::read(const QString &statement, const std::vector<qint64> &val
 {
     return m_store ? m_store->read(statement, values) : Reader::failed(notOpen());
 }
+
+StoreAction::StoreAction(Connection &connection)
+    : m_connection(connection), m_begun(connection.execute(u"BEGIN IMMEDIATE"_s)), m_open(bool(m_begun))
+{
+}
+
+StoreAction::~StoreAction()
+{
+    (void)end();
+}
+
+Result StoreAction::end()
+{
+    if (!m_open)
+        return {};
+    m_open = false;
+    Result committed = m_connection.execute(u"COMMIT"_s);
+    if (!committed)
+        (void)m_connection.execute(u"ROLLBACK"_s);
+    return committed;
+}

@@ -23,5 +23,24 @@ private:
     QString m_path;
 };
 
+/// Several statements as one: they reach the store together when the object ends, and a statement that fails among
+/// them leaves the others done. A pulled plug leaves either all of them or none.
+class StoreAction {
+public:
+    explicit StoreAction(Connection &connection);
+    ~StoreAction();
+    Q_DISABLE_COPY_MOVE(StoreAction)
+
+    /// Whether the action could begin; over a locked or read-only store it can't, and nothing may be tried.
+    const Result &begun() const { return m_begun; }
+    /// Ends the action early, and tells whether the store has it.
+    Result end();
+
+private:
+    Connection &m_connection;
+    Result m_begun;
+    bool m_open = false;
+};
+
 /// The connection text for the store at a path. The password opens the file, whoever the user is.
 QString connectionText(const QString &gsDbPath);

@@ -23,11 +23,10 @@ std::vector<InfoRow> CompanyInfo::read(Connection &connection, Result &result)
 
 Result CompanyInfo::write(const std::vector<InfoRow> &rows, Session &session)
 {
-    // The rows are gone when the first statement fails to be followed by the others, so it must not be tried on a
-    // store that refuses writing.
+    StoreAction action(session.gCnn);
+    if (!action.begun())
+        return action.begun();
     Result first = session.gCnn.execute(u"DELETE REF_INFO.* FROM REF_INFO;"_s);
-    if (!first)
-        return first;
     for (const InfoRow &row : rows) {
         if (row.sInfo.trimmed().isEmpty())
             continue;
@@ -37,6 +36,8 @@ Result CompanyInfo::write(const std::vector<InfoRow> &rows, Session &session)
         if (first && !inserted)
             first = inserted;
     }
+    if (const Result ended = action.end(); first && !ended)
+        first = ended;
     const Result read = AfficherInfo(session);
     return first ? read : first;
 }

@@ -1,0 +1,12 @@
+#include "shell/Skin.h"
+#include "tests/support/Suite.h"
+
+#include <QApplication>
+
+int main(int argc, char *argv[])
+{
+    QApplication application(argc, argv);
+    QApplication::setQuitOnLastWindowClosed(false);
+    Skin::apply(application);
+    return Suite::run();
+}
