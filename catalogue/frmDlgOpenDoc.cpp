@@ -15,10 +15,10 @@ frmDlgOpenDoc::frmDlgOpenDoc(Session &screenSession, QWidget *parent)
 {
     m_ui->setupUi(this);
     m_folders->setFilter(QDir::Dirs | QDir::NoDotAndDotDot);
-    m_folders->setRootPath(QDir::rootPath());
     m_ui->Dir1->setModel(m_folders);
     for (int column = 1; column < m_folders->columnCount(); ++column)
         m_ui->Dir1->hideColumn(column);
+    m_ui->Drive1->addItem(QDir::homePath());
     for (const QStorageInfo &volume : QStorageInfo::mountedVolumes())
         if (volume.isReady())
             m_ui->Drive1->addItem(volume.rootPath());
@@ -63,8 +63,21 @@ QString frmDlgOpenDoc::folder() const
     return m_folders->filePath(m_ui->Dir1->currentIndex());
 }
 
+/// The tree begins at the drive, the longest one that the folder lies in.
 void frmDlgOpenDoc::showFolder(const QString &path)
 {
+    int drive = 0;
+    qsizetype longest = 0;
+    for (int i = 0; i < m_ui->Drive1->count(); ++i) {
+        const QString root = QDir(m_ui->Drive1->itemText(i)).absolutePath();
+        const QString below = root.endsWith(u'/') ? root : root + u'/';
+        if ((path == root || path.startsWith(below)) && root.size() > longest) {
+            drive = i;
+            longest = root.size();
+        }
+    }
+    m_ui->Drive1->setCurrentIndex(drive);
+    m_ui->Dir1->setRootIndex(m_folders->setRootPath(m_ui->Drive1->currentText()));
     const QModelIndex index = m_folders->index(path);
     m_ui->Dir1->setCurrentIndex(index);
     m_ui->Dir1->scrollTo(index);

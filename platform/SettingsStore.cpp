@@ -23,7 +23,7 @@ Result written(QSettings &settings)
 {
     settings.sync();
     if (settings.status() != QSettings::NoError)
-        return {1, QStringLiteral("%1 can't be written").arg(settings.fileName())};
+        return {1, QStringLiteral("can't be written: ") + settings.fileName()};
     QFile::setPermissions(settings.fileName(), QFile::ReadOwner | QFile::WriteOwner);
     return {};
 }

@@ -33,6 +33,7 @@ struct Session {
     QString gsDroits;
     Connection gCnn;
     Connection gCnnLocal; ///< opened by the main window, read by no screen
+    Connection gCnnCopy;  ///< its sister for the copy, which nothing asks for
     bool gbPremierLancement = false;
     bool gbValider = false; ///< how the last modal dialogue ended
     /// The values of REF_INFO in the order of their rows; position 1 is the first.

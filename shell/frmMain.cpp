@@ -129,7 +129,7 @@ void frmMain::ConnectLocal(bool bCopie)
     connection.sDb = m_session.applicationFolder + (bCopie ? u"/dbcopy.mdb"_s : u"/zelvantor.mdb"_s);
     connection.Init_connect();
     if (connection.bLogin())
-        m_session.gCnnLocal = connection.connectdb();
+        (bCopie ? m_session.gCnnCopy : m_session.gCnnLocal) = connection.connectdb();
     else
         m_session.messages->box(u"Problème de connection\r"_s + connection.Chaineconnect, title);
     QApplication::restoreOverrideCursor();

@@ -55,9 +55,9 @@ struct Cause {
     QString french;
 };
 
-const std::array<Cause, 9> &causes()
+const std::array<Cause, 10> &causes()
 {
-    static const std::array<Cause, 9> table = {{
+    static const std::array<Cause, 10> table = {{
         {u"c1"_s, u"No such file or directory"_s, u"fichier introuvable"_s},
         {u"c2"_s, u"Permission denied"_s, u"accès refusé"_s},
         {u"c3"_s, u"No space left on device"_s, u"plus de place sur le disque"_s},
@@ -66,6 +66,7 @@ const std::array<Cause, 9> &causes()
         {u"c6"_s, u"not UTF-8, read as windows-1252"_s, u"pas en UTF-8, lu en windows-1252"_s},
         {u"c7"_s, u"not UTF-8, read as UTF-16"_s, u"pas en UTF-8, lu en UTF-16"_s},
         {u"c8"_s, u"no \"key=value\" in line"_s, u"pas de « clé=valeur » à la ligne"_s},
+        {u"c10"_s, u"can't be written"_s, u"ne peut pas être écrit"_s},
         {u"c9"_s, u"not in the form of a settings file"_s, u"n’a pas la forme d’un fichier de réglages"_s},
     }};
     return table;

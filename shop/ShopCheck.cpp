@@ -1,6 +1,7 @@
 #include "shop/ShopCheck.h"
 
 #include "platform/CodePage.h"
+#include "shop/CompanyInfo.h"
 
 #include <QFileInfo>
 #include <QHash>
@@ -77,9 +78,16 @@ private:
     /// The lines that the contact page and the checkouts show.
     void company()
     {
-        for (const int position : {1, 2, 4, 5, 7, 8, 9})
-            if (m_data.info(position).trimmed().isEmpty())
-                add(Finding::EmptyCompanyLine, QString::number(position));
+        Result read;
+        const std::vector<InfoRow> rows = CompanyInfo::read(m_session.gCnn, read);
+        if (!read)
+            add(Finding::CatalogueNotRead, read.message());
+        for (const size_t position : {1, 2, 4, 5, 7, 8, 9}) {
+            if (!m_data.info(int(position)).trimmed().isEmpty())
+                continue;
+            const QString label = position <= rows.size() ? rows[position - 1].sInfo : QString();
+            add(Finding::EmptyCompanyLine, QString::number(position) + u" ("_s + label + u')');
+        }
     }
 
     void groups()

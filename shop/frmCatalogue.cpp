@@ -12,6 +12,7 @@
 #include <QFileInfo>
 #include <QHeaderView>
 #include <QImageReader>
+#include <QSet>
 #include <QTimer>
 
 using namespace Qt::StringLiterals;
@@ -269,10 +270,17 @@ void frmCatalogue::check()
 {
     const Busy busy;
     m_ui->lstControle->clear();
-    for (const Incident &incident : m_report.incidents())
+    QSet<QString> picturesTold;
+    for (const Incident &incident : m_report.incidents()) {
         listFinding(describe(incident, session().localisation), {});
-    for (const Finding &finding : checkShop(takeData(), takeSelection(), session()))
-        listFinding(describe(finding, session().localisation), finding.control);
+        if (incident.kind == Incident::PictureNotCopied)
+            picturesTold.insert(incident.piece);
+    }
+    for (const Finding &finding : checkShop(takeData(), takeSelection(), session())) {
+        // A picture that the run has missed already needs no second line.
+        if (finding.kind != Finding::PictureGone || !picturesTold.contains(finding.subject.section(u" / "_s, 1)))
+            listFinding(describe(finding, session().localisation), finding.control);
+    }
     m_ui->lbEtat->setText(m_ui->lstControle->count() == 0 ? u"✓"_s : QString());
 }
 

@@ -19,7 +19,9 @@
 #include "platform/Messages.h"
 
 #include <QApplication>
+#include <QComboBox>
 #include <QDir>
+#include <QFile>
 #include <QListWidget>
 #include <QTabWidget>
 #include <QTemporaryDir>
@@ -76,6 +78,7 @@ int main(int argc, char *argv[])
     QDir().mkpath(folder);
 
     const QTemporaryDir place;
+    qputenv("HOME", QFile::encodeName(place.path()));
     SettingsStore settings(place.filePath(u"settings"_s));
     const Clock clock;
     Quiet quiet;
@@ -136,7 +139,11 @@ int main(int argc, char *argv[])
         save(window, folder, u"frmTrad"_s);
     }
     {
+        (void)session.saveSetting(u"PATHPHOTO"_s,
+                                  ApplicationFolder::sample(session.applicationFolder) + u"/pictures"_s);
         frmDlgOpenDoc window(session, nullptr);
+        window.findChild<QComboBox *>(u"cbType"_s)->setCurrentIndex(6);
+        window.findChild<QListWidget *>(u"File1"_s)->setCurrentRow(0);
         save(window, folder, u"frmDlgOpenDoc"_s);
     }
     saveCatalogue(session, folder);

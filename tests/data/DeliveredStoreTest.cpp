@@ -51,7 +51,9 @@ void DeliveredStoreTest::initTestCase()
 void DeliveredStoreTest::columnsInTheirOrder_data()
 {
     QTest::addColumn<QString>("columns"); // "_" stands for a column without a name that statements use
-    const auto table = [](const char *name, const char *columns) { QTest::newRow(name) << QString::fromLatin1(columns); };
+    const auto table = [](const char *name, const char *columns) {
+        QTest::newRow(name) << QString::fromLatin1(columns);
+    };
     table("T_PRODUIT",
           "idProduit sRef sNomFR sGarantie nQuantity sObservationFR dDate_creation dDate_modification idFamille "
           "idCategorie idFournisseur idTVAA sMarque sModele sRefFournisseur sCondition sPoids sDimension sPrixAchatHT "
@@ -175,8 +177,7 @@ void DeliveredStoreTest::rootsAndCounter()
     QVERIFY(m_connection.execute(u"INSERT INTO REF_CATEGORIE_P (idRef_parent, sLibelle) VALUES (1, 'x')"_s));
     QVERIFY(m_connection.execute(u"DELETE REF_CATEGORIE_P.* FROM REF_CATEGORIE_P WHERE sLibelle = 'X';"_s));
     QVERIFY(m_connection.execute(u"INSERT INTO REF_CATEGORIE_P (idRef_parent, sLibelle) VALUES (1, 'y')"_s));
-    QCOMPARE(rows(u"SELECT idRef_Categorie FROM REF_CATEGORIE_P WHERE sLibelle = 'y'"_s),
-             QList<QStringList>{{u"3"_s}});
+    QCOMPARE(rows(u"SELECT idRef_Categorie FROM REF_CATEGORIE_P WHERE sLibelle = 'y'"_s), QList<QStringList>{{u"3"_s}});
 }
 
 ZELVANTOR_SUITE(DeliveredStoreTest)

@@ -74,8 +74,9 @@ void SampleStoreTest::initTestCase()
     const QString path = m_folder.filePath(u"zelvantor.mdb"_s);
     Files::write(path, Files::read(sample + u"zelvantor.mdb"_s));
     QVERIFY(m_connection.open(connectionText(path)));
-    QString columns = u"idProduit,sRef,sEan,nQuantity,sPrixAchatHT,idTVAA,sPrixAchatTTC,sFrais,sPrixRevient,sValeurA,"
-                      "sMarge,sPrixVenteHT,idTVAV,sPrixVenteTTC,sValeurV,sMarque,sCategorie,sFamille,idFamille,bPrixQte"_s;
+    QString columns =
+        u"idProduit,sRef,sEan,nQuantity,sPrixAchatHT,idTVAA,sPrixAchatTTC,sFrais,sPrixRevient,sValeurA,"
+        "sMarge,sPrixVenteHT,idTVAV,sPrixVenteTTC,sValeurV,sMarque,sCategorie,sFamille,idFamille,bPrixQte"_s;
     for (const QString &code : languages)
         columns += u",sNom%1,sObservation%1"_s.arg(code);
     m_products = rows(u"SELECT "_s + columns + u" FROM T_PRODUIT"_s);
@@ -131,10 +132,13 @@ void SampleStoreTest::prices()
         const double purchase = number(u"sPrixAchatHT"_s);
         const double price = number(u"sPrixVenteTTC"_s);
         QVERIFY2(purchase > 0 && price > 0, id.constData());
-        QVERIFY2(isRounded(purchase * (1 + m_rates[product[u"idTVAA"_s]] / 100), product[u"sPrixAchatTTC"_s]), id.constData());
-        QVERIFY2(isRounded(number(u"sPrixAchatTTC"_s) + number(u"sFrais"_s), product[u"sPrixRevient"_s]), id.constData());
+        QVERIFY2(isRounded(purchase * (1 + m_rates[product[u"idTVAA"_s]] / 100), product[u"sPrixAchatTTC"_s]),
+                 id.constData());
+        QVERIFY2(isRounded(number(u"sPrixAchatTTC"_s) + number(u"sFrais"_s), product[u"sPrixRevient"_s]),
+                 id.constData());
         QVERIFY2(isRounded(price / number(u"sPrixRevient"_s), product[u"sMarge"_s]), id.constData());
-        QVERIFY2(isRounded(price / (1 + m_rates[product[u"idTVAV"_s]] / 100), product[u"sPrixVenteHT"_s]), id.constData());
+        QVERIFY2(isRounded(price / (1 + m_rates[product[u"idTVAV"_s]] / 100), product[u"sPrixVenteHT"_s]),
+                 id.constData());
         QVERIFY2(isRounded(number(u"sPrixRevient"_s) * number(u"nQuantity"_s), product[u"sValeurA"_s]), id.constData());
         QVERIFY2(isRounded(price * number(u"nQuantity"_s), product[u"sValeurV"_s]), id.constData());
         static const QRegularExpression amount(u"^\\d+\\.\\d\\d$"_s);
@@ -208,9 +212,10 @@ void SampleStoreTest::textsThatPagesCanCarry()
         QVERIFY2(!quotes.match(row[u"sLibelle"_s]).hasMatch(), qPrintable(row[u"sLibelle"_s]));
     // The mail address of the company carries its "@", but none of its quotes survive the contact page.
     for (const Row &row : rows(u"SELECT sValeur FROM REF_INFO"_s))
-        QVERIFY2(!row[u"sValeur"_s].contains(u'\'') && !row[u"sValeur"_s].contains(u'"'), qPrintable(row[u"sValeur"_s]));
-    for (const QString &text : {u"accueil.txt"_s, u"modalite.txt"_s, u"expedition.txt"_s, u"privacy.txt"_s,
-                                u"keyword.txt"_s, u"des.txt"_s}) {
+        QVERIFY2(!row[u"sValeur"_s].contains(u'\'') && !row[u"sValeur"_s].contains(u'"'),
+                 qPrintable(row[u"sValeur"_s]));
+    for (const QString &text :
+         {u"accueil.txt"_s, u"modalite.txt"_s, u"expedition.txt"_s, u"privacy.txt"_s, u"keyword.txt"_s, u"des.txt"_s}) {
         const QString content = CodePage::decode(Files::read(sample + text));
         QVERIFY2(!content.trimmed().isEmpty() && !quotes.match(content).hasMatch(), qPrintable(text));
         QVERIFY2(!content.contains(QChar(0xFFFD)) && !content.contains(u"Ã"_s), qPrintable(text));

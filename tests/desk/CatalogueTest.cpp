@@ -226,7 +226,7 @@ void CatalogueTest::findingsLeadToTheirField()
           u"00001/202501, 00001202501"_s, u"Pot \"noir\" | grand » contient un guillemet"_s,
           u"Pot \"noir\" | grand » contient le signe"_s, u"L’article 00003/202501 n’a pas de nom"_s,
           u"L’article 00003/202501 n’a pas de prix"_s, u"« a@b »"_s, u"a@b / Bol Ω » contient des caractères"_s,
-          u"La ligne 9 des données"_s, u"encore celui d’origine"_s})
+          u"La ligne 9 (Email) des données"_s, u"encore celui d’origine"_s})
         QVERIFY2(!lines.filter(expected).isEmpty(), qPrintable(expected + u" manque dans\n"_s + lines.join(u'\n')));
     auto &list = control<QListWidget>(window, "lstControle");
     window.show();

@@ -84,8 +84,8 @@ void SettingsStoreTest::readableByTheOwnerAlone()
 {
     SettingsStore store(m_folder.filePath(u"new/folder"_s));
     QVERIFY(store.save(u"DORNELIQUE"_s, u"ZELVANTOR"_s, u"X"_s, u"secret"_s));
-    const QFile::Permissions others = QFile::ReadGroup | QFile::WriteGroup | QFile::ExeGroup | QFile::ReadOther
-                                      | QFile::WriteOther | QFile::ExeOther;
+    const QFile::Permissions others =
+        QFile::ReadGroup | QFile::WriteGroup | QFile::ExeGroup | QFile::ReadOther | QFile::WriteOther | QFile::ExeOther;
     const QString path = m_folder.filePath(u"new/folder/DORNELIQUE.ini"_s);
     QCOMPARE(store.fileName(u"DORNELIQUE"_s), path);
     QCOMPARE(QFileInfo(path).permissions() & others, QFile::Permissions());

@@ -5,7 +5,10 @@
 #include <QTemporaryDir>
 #include <QTest>
 
+#include <fcntl.h>
 #include <sqlite3.h>
+#include <sys/wait.h>
+#include <unistd.h>
 
 using namespace Qt::StringLiterals;
 
@@ -25,6 +28,7 @@ private Q_SLOTS:
     void lockedByAnotherProgram_data();
     void lockedByAnotherProgram();
     void writerBesideAReader();
+    void secondConnectionKeepsTheLocksOfTheFirst();
     void readingChangesNothing();
 
 private:
@@ -261,6 +265,33 @@ void StoreTest::writerBesideAReader()
     QVERIFY(other.run("COMMIT"));
     QVERIFY(store->execute(u"INSERT INTO T (n) VALUES (2)"_s));
     QCOMPARE(column(*store, u"SELECT n FROM T ORDER BY 1"_s), QStringList({u"1"_s, u"2"_s}));
+}
+
+/// The main window opens the store twice. A program in between must still see that it is in use: on closing it
+/// would otherwise throw the journal away that the first connection works with.
+void StoreTest::secondConnectionKeepsTheLocksOfTheFirst()
+{
+    const auto isInUse = [this] {
+        const pid_t child = fork();
+        if (child == 0) {
+            // SQLite, "os_unix.c": a reader holds a lock on the 510 bytes behind 0x40000002.
+            struct flock lock = {};
+            lock.l_type = F_WRLCK;
+            lock.l_whence = SEEK_SET;
+            lock.l_start = 0x40000002;
+            lock.l_len = 510;
+            const int file = open(path().toUtf8().constData(), O_RDWR);
+            _exit(file >= 0 && fcntl(file, F_GETLK, &lock) == 0 && lock.l_type != F_UNLCK ? 1 : 0);
+        }
+        int status = 0;
+        waitpid(child, &status, 0);
+        return WIFEXITED(status) && WEXITSTATUS(status) == 1;
+    };
+    QVERIFY(!isInUse());
+    const auto first = opened();
+    QVERIFY(isInUse());
+    const auto second = opened();
+    QVERIFY(isInUse());
 }
 
 void StoreTest::readingChangesNothing()

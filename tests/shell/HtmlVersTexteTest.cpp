@@ -101,14 +101,15 @@ void HtmlVersTexteTest::entity()
 
 void HtmlVersTexteTest::latin1InOrder()
 {
-    const QStringList signs =
-        u"iexcl cent pound curren yen brvbar sect uml copy ordf laquo not shy reg macr deg plusmn sup2 sup3 acute micro "
-        "para middot cedil supl ordm raquo frac14 frac12 frac34 iquest"_s.split(u' ');
+    const QStringList signs = u"iexcl cent pound curren yen brvbar sect uml copy ordf laquo not shy reg macr deg "
+                              u"plusmn sup2 sup3 acute micro "
+                              "para middot cedil supl ordm raquo frac14 frac12 frac34 iquest"_s.split(u' ');
     QCOMPARE(signs.size(), 31);
     for (int i = 0; i < signs.size(); ++i)
         QCOMPARE(EntiteVersTexte(signs[i]), QString(QChar(161 + i)));
     const QStringList letters =
-        u"agrave aacute acirc atilde auml aring aelig ccedil egrave eacute ecirc euml igrave iacute icirc iuml eth ntilde "
+        u"agrave aacute acirc atilde auml aring aelig ccedil egrave eacute ecirc euml igrave iacute icirc iuml eth "
+        u"ntilde "
         "ograve oacute ocirc otilde ouml divide oslash ugrave uacute ucirc uuml yacute thorn yuml"_s.split(u' ');
     QCOMPARE(letters.size(), 32);
     for (int i = 0; i < letters.size(); ++i)

@@ -15,7 +15,10 @@ private Q_SLOTS:
     void countsKeys();
 
 private:
-    void file(const QString &language, const QByteArray &text) { Files::write(m_folder.filePath(language + u".cda"_s), text); }
+    void file(const QString &language, const QByteArray &text)
+    {
+        Files::write(m_folder.filePath(language + u".cda"_s), text);
+    }
     QTemporaryDir m_folder;
 };
 

@@ -111,10 +111,11 @@ void CartTest::cartPage()
     QCOMPARE(pages[1].fileName, u"managecart.html"_s);
     QVERIFY(!pages[0].indexed && !pages[1].indexed);
     const QString page = pages[1].text;
-    for (const QString &text :
-         {u"<TITLE>T67</TITLE>"_s, u"<h1>Tm4</h1>"_s, u">T67<"_s, u"value=\"T33\""_s, u"value=\" T69 \""_s,
-          u"value=\" T28 \""_s, u"\"language-sp.js\""_s, u"topbkg4.gif"_s, u"store.css"_s,
-          u"<FORM ACTION=\\\"checkout.htm\\\" NAME=\\\"form\\\" METHOD=\\\"GET\\\" onsubmit=\\\"return ValidateCart(this)\\\">"_s})
+    for (
+        const QString &text :
+        {u"<TITLE>T67</TITLE>"_s, u"<h1>Tm4</h1>"_s, u">T67<"_s, u"value=\"T33\""_s, u"value=\" T69 \""_s,
+         u"value=\" T28 \""_s, u"\"language-sp.js\""_s, u"topbkg4.gif"_s, u"store.css"_s,
+         u"<FORM ACTION=\\\"checkout.htm\\\" NAME=\\\"form\\\" METHOD=\\\"GET\\\" onsubmit=\\\"return ValidateCart(this)\\\">"_s})
         QVERIFY2(page.contains(text), qPrintable(text));
     static const QRegularExpression left(u"\\[[A-Za-z]+\\]"_s);
     QCOMPARE(left.match(page).captured(), QString());

@@ -72,14 +72,36 @@ void CheckoutTest::formOfAFrenchShop()
     QCOMPARE(pages[2].fileName, u"checkout_mf.htm"_s);
     QCOMPARE(pages[1].text, pages[2].text);
     const QString page = pages[1].text;
-    QVERIFY(page.contains(u"<FORM name=mycart action=\"http://127.0.0.1/form.cgi\" \"method\"=post encType=text/plain>"_s));
+    QVERIFY(
+        page.contains(u"<FORM name=mycart action=\"http://127.0.0.1/form.cgi\" \"method\"=post encType=text/plain>"_s));
     // The step is for another spelling, so this name stays.
     QCOMPARE(field(page, u"[RECEPIENT]"_s), u"recipient"_s);
     QCOMPARE(field(page, u"exp@x.example"_s), u"email"_s);
     QVERIFY(!page.contains(u"dest@x.example"_s));
-    for (const char *name : {"TOTAL_ITEMS_ORDERED", "ORDER_DATE", "b_first", "b_last", "b_addr", "b_addr2", "b_city",
-                             "b_prov", "b_zip", "b_phone", "b_fax", "b_email", "PAYMENT_TYPE", "sp ", "s_first",
-                             "s_last", "s_addr", "s_addr2", "s_city", "s_prov", "s_zip", "s_phone", "s_fax", "s_email",
+    for (const char *name : {"TOTAL_ITEMS_ORDERED",
+                             "ORDER_DATE",
+                             "b_first",
+                             "b_last",
+                             "b_addr",
+                             "b_addr2",
+                             "b_city",
+                             "b_prov",
+                             "b_zip",
+                             "b_phone",
+                             "b_fax",
+                             "b_email",
+                             "PAYMENT_TYPE",
+                             "sp ",
+                             "s_first",
+                             "s_last",
+                             "s_addr",
+                             "s_addr2",
+                             "s_city",
+                             "s_prov",
+                             "s_zip",
+                             "s_phone",
+                             "s_fax",
+                             "s_email",
                              "comment"})
         QVERIFY2(field(page, QString::fromLatin1(name)).isEmpty(), name);
     QVERIFY(page.contains(u"name=\"b_first\" value=\"First\""_s) && page.contains(u"name=\"b_last\" value=\"Last\""_s));

@@ -109,12 +109,12 @@ void FixedPagesTest::legalPages()
         seen << page.fileName + u'|' + content(page.text, u"<h1>"_s, u"</h1>"_s) + u'|'
                     + content(page.text, u"<div class=\"content\">\r\n"_s, u"\r\n</div>"_s);
         QVERIFY(page.indexed);
-        QVERIFY(page.text.contains(u"<META NAME=\"description\" CONTENT=\"%1\">"_s.arg(
-            content(page.text, u"<h1>"_s, u"</h1>"_s))));
+        QVERIFY(page.text.contains(
+            u"<META NAME=\"description\" CONTENT=\"%1\">"_s.arg(content(page.text, u"<h1>"_s, u"</h1>"_s))));
     }
     seen.removeFirst();
-    QCOMPARE(seen, QStringList({u"terme.htm|Tm6|lun\r\n<a href=x>deux</a>"_s,
-                                u"expedition.htm|Tm7|[contact] [titre]"_s, u"privacy.htm|Tm8|"_s}));
+    QCOMPARE(seen, QStringList({u"terme.htm|Tm6|lun\r\n<a href=x>deux</a>"_s, u"expedition.htm|Tm7|[contact] [titre]"_s,
+                                u"privacy.htm|Tm8|"_s}));
 }
 
 ZELVANTOR_SUITE(FixedPagesTest)

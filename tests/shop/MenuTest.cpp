@@ -26,8 +26,11 @@ namespace {
 Selection twoGroups()
 {
     Selection selection;
-    selection.rows = {{2, {}, u" Table "_s, true, 1, 2},  {{}, 11, u"Bols "_s}, {{}, 12, u"Tasses"_s},
-                      {3, {}, u"Jardin"_s, true, 4, 4}, {{}, 21, u"Pots"_s}};
+    selection.rows = {{2, {}, u" Table "_s, true, 1, 2},
+                      {{}, 11, u"Bols "_s},
+                      {{}, 12, u"Tasses"_s},
+                      {3, {}, u"Jardin"_s, true, 4, 4},
+                      {{}, 21, u"Pots"_s}};
     selection.groups = 2;
     return selection;
 }
@@ -142,8 +145,7 @@ void MenuTest::options()
 {
     QFETCH(QString, ticks);
     QFETCH(QStringList, entries);
-    const MenuScript script =
-        GenererMenu(menuData(ticks[0] == u'1', ticks[1] == u'1', ticks[2] == u'1'), twoGroups());
+    const MenuScript script = GenererMenu(menuData(ticks[0] == u'1', ticks[1] == u'1', ticks[2] == u'1'), twoGroups());
     QStringList found;
     static const QRegularExpression entry(u"^(Menu[6-9])=new Array\\(\"(.*)\",\"(.*)\",\"\",0\\);$"_s);
     for (const QString &line : arrays(script))
@@ -166,11 +168,12 @@ void MenuTest::selectionFromTheStore()
     TestShop shop;
     const auto add = [&shop](int id, int category, int family, const QString &names) {
         shop.product(id, u"R%1"_s.arg(id), u"N"_s);
-        shop.sql(u"UPDATE T_PRODUIT SET idCategorie=%1, idFamille=%2, sCategorie='%3', sFamille='%4' WHERE idProduit=%5"_s
-                     .arg(category)
-                     .arg(family)
-                     .arg(names.section(u'/', 0, 0), names.section(u'/', 1))
-                     .arg(id));
+        shop.sql(
+            u"UPDATE T_PRODUIT SET idCategorie=%1, idFamille=%2, sCategorie='%3', sFamille='%4' WHERE idProduit=%5"_s
+                .arg(category)
+                .arg(family)
+                .arg(names.section(u'/', 0, 0), names.section(u'/', 1))
+                .arg(id));
     };
     add(1, 3, 21, u"Jardin/Pots"_s);
     add(2, 2, 12, u"Table/Tasses"_s);

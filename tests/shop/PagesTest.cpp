@@ -84,8 +84,8 @@ void PagesTest::listForTheFourPairs()
     QCOMPARE(row.contains(u"12.5"_s), chAchat);
     QCOMPARE(row.contains(u"<FORM NAME=order onSubmit=\"AddToCart(this);\""_s), chAchat);
     QCOMPARE(row.contains(u"name=QUANTITY onChange='this.value=CKquantity(this.value)' value=\"1\">"_s), chAchat);
-    for (const QString &field : {u"SHIPPING value=\"0\""_s, u"ID_NUM value=\"A/B\""_s, u"NAME value=\"Bol\""_s,
-                                 u"PRICE value=\"12.5\""_s})
+    for (const QString &field :
+         {u"SHIPPING value=\"0\""_s, u"ID_NUM value=\"A/B\""_s, u"NAME value=\"Bol\""_s, u"PRICE value=\"12.5\""_s})
         QCOMPARE(row.contains(u"<input type=hidden name="_s + field + u'>'), chAchat);
     // Without buying a closing cell tag stands alone.
     static const QRegularExpression opening(u"<td[ >]"_s);
@@ -172,20 +172,20 @@ void PagesTest::oddNames()
 void PagesTest::nullsKeepTheProductBefore()
 {
     TestShop shop;
-    shop.sql(u"INSERT INTO T_PRODUIT (idProduit, idCategorie, idFamille) VALUES (1, 2, 11)"_s);
-    shop.product(2, u"R2"_s, u"Deux"_s, u"22.00"_s);
+    for (int id = 1; id <= 6; ++id)
+        shop.product(id, u"R%1"_s.arg(id), id == 4 ? u""_s : u"N%1"_s.arg(id), id == 4 ? u""_s : u"22.00"_s);
     shop.sql(u"UPDATE T_PRODUIT SET sObservationFR = 'Texte deux' WHERE idProduit = 2"_s);
-    shop.sql(u"INSERT INTO T_PRODUIT (idProduit, sRef, idCategorie, idFamille) VALUES (3, 'R3', 2, 11)"_s);
-    shop.product(4, u"R4"_s, u""_s, u""_s); // empty is not null
-    shop.sql(u"INSERT INTO T_PRODUIT (idProduit, sRef, idCategorie, idFamille) VALUES (5, 'R5', 2, 12)"_s);
-    shop.product(6, u"R6"_s, u"Six"_s);
-    shop.sql(u"UPDATE T_PRODUIT SET idFamille = 12 WHERE idProduit = 6"_s);
+    shop.sql(u"UPDATE T_PRODUIT SET sRef = NULL WHERE idProduit = 1"_s);
+    shop.sql(
+        u"UPDATE T_PRODUIT SET sNomFR = NULL, sPrixVenteTTC = NULL, sObservationFR = NULL WHERE idProduit IN (1, 3, 5)"_s);
+    shop.sql(u"UPDATE T_PRODUIT SET idFamille = 12 WHERE idProduit > 4"_s);
     const RecordingOutput output = shop.pages();
     QCOMPARE(output.order.first(), u".htm"_s);
     QVERIFY(output.texts[u".htm"_s].contains(u"> / <"_s));
-    QVERIFY(output.texts[u"R3.htm"_s].contains(u"R3 / Deux<"_s) && output.texts[u"R3.htm"_s].contains(u"Texte deux"_s));
+    QVERIFY(output.texts[u"R3.htm"_s].contains(u"R3 / N2<"_s) && output.texts[u"R3.htm"_s].contains(u"Texte deux"_s));
     const QString rows = listRows(output.texts[list]);
     QCOMPARE(rows.count(u"<td width=\"7%\" align=\"center\">22.00 EUR</td>"_s), 2);
+    // Empty is not null.
     QVERIFY(output.texts[u"R4.htm"_s].contains(u"R4 / <"_s) && !output.texts[u"R4.htm"_s].contains(u"Texte deux"_s));
     // The values live as long as the run, also from one sub-group to the next.
     QVERIFY(output.texts[u"R5.htm"_s].contains(u"R5 / <"_s));

@@ -1,5 +1,5 @@
-#include "shop/PageTemplate.h"
 #include "shop/Replacement.h"
+#include "shop/PageTemplate.h"
 #include "tests/support/Suite.h"
 
 #include <QRandomGenerator>
@@ -51,7 +51,7 @@ void ReplacementTest::order()
 void ReplacementTest::takenApartOrNot()
 {
     const QStringList placeholders = {u"[nom]"_s, u"[prix]"_s, u"[a]"_s, u"[devis]"_s};
-    const QStringList pieces = {u"["_s,    u"]"_s,     u"nom"_s, u"prix"_s, u"[nom"_s, u"prix]"_s,  u"[a]"_s,
+    const QStringList pieces = {u"["_s,     u"]"_s,      u"nom"_s, u"prix"_s, u"[nom"_s, u"prix]"_s,   u"[a]"_s,
                                 u"[nom]"_s, u"[prix]"_s, u"a"_s,   u"x"_s,    u""_s,     u"[devis]"_s, u"[["_s};
     QRandomGenerator random(20260504);
     const auto text = [&](int longest) {

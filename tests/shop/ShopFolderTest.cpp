@@ -21,9 +21,9 @@ private Q_SLOTS:
 
 namespace {
 
-const QStringList fixedPages = {u"checkout.htm"_s,   u"checkout_cc.htm"_s, u"checkout_mf.htm"_s, u"contact.htm"_s,
+const QStringList fixedPages = {u"checkout.htm"_s,     u"checkout_cc.htm"_s, u"checkout_mf.htm"_s, u"contact.htm"_s,
                                 u"exmplmenu_var.js"_s, u"expedition.htm"_s,  u"index.htm"_s,       u"managecart.html"_s,
-                                u"nopcart.js"_s,     u"privacy.htm"_s,     u"searchdb.js"_s,     u"searchfunc.html"_s,
+                                u"nopcart.js"_s,       u"privacy.htm"_s,     u"searchdb.js"_s,     u"searchfunc.html"_s,
                                 u"terme.htm"_s};
 
 } // namespace
@@ -122,18 +122,17 @@ void ShopFolderTest::secondRun()
 void ShopFolderTest::preparing()
 {
     TestShop shop;
-    for (const QString &name : {u"a.gif"_s, u"tri.gif"_s, u"tridown.gif"_s, u"buy.gif"_s, u"buy.png"_s, u"menu_com.js"_s,
-                                u"store.css"_s, u"blank.htm"_s, u"notes.txt"_s, u"photo.jpg"_s})
+    for (const QString &name : {u"a.gif"_s, u"tri.gif"_s, u"tridown.gif"_s, u"buy.gif"_s, u"buy.png"_s,
+                                u"menu_com.js"_s, u"store.css"_s, u"blank.htm"_s, u"notes.txt"_s, u"photo.jpg"_s})
         Files::write(shop.path(u"img/"_s + name), name.toUtf8());
     Files::write(shop.path(u"logo.png"_s), "logo");
     ShopFolder folder(shop.path(u"out"_s), shop.report);
     QVERIFY(folder.prepare(shop.path(u"img"_s)));
     folder.copyLogo(shop.path(u"logo.png"_s));
     const auto files = Files::tree(shop.path(u"out"_s));
-    QCOMPARE(files.keys(),
-             QStringList({u"blank.htm"_s, u"images/a.gif"_s, u"images/buy.gif"_s, u"images/buy.png"_s,
-                          u"images/logo.gif"_s, u"images/tri.gif"_s, u"images/tridown.gif"_s, u"menu_com.js"_s,
-                          u"store.css"_s, u"tri.gif"_s, u"tridown.gif"_s}));
+    QCOMPARE(files.keys(), QStringList({u"blank.htm"_s, u"images/a.gif"_s, u"images/buy.gif"_s, u"images/buy.png"_s,
+                                        u"images/logo.gif"_s, u"images/tri.gif"_s, u"images/tridown.gif"_s,
+                                        u"menu_com.js"_s, u"store.css"_s, u"tri.gif"_s, u"tridown.gif"_s}));
     QCOMPARE(files[u"images/logo.gif"_s], "logo");
     QVERIFY(shop.report.incidents().empty());
     folder.copyLogo(u"  "_s);

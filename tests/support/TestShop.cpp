@@ -4,6 +4,7 @@
 #include "shop/ShopRun.h"
 #include "tests/support/Files.h"
 
+#include <QDir>
 #include <QTest>
 
 using namespace Qt::StringLiterals;
@@ -47,6 +48,7 @@ QString quoted(const QString &text)
 TestShop::TestShop() : settings(m_folder.filePath(u"settings"_s)), session(settings, clock, m_folder.path())
 {
     Files::write(path(u"zelvantor.mdb"_s), emptyStore());
+    QDir().mkpath(path(u"img"_s));
     session.readSettings();
     if (const Result opened = session.gCnn.open(connectionText(session.gsDbPath)); !opened)
         qFatal("%s", qPrintable(opened.message()));
