@@ -29,6 +29,7 @@ struct Arguments {
     QString settingsFolder;
     QString outputFolder;
     std::optional<QString> language;
+    bool outputNamed = false;
     bool checkOnly = false;
 };
 
@@ -69,18 +70,20 @@ std::optional<Arguments> readArguments(const QCoreApplication &application, int 
         folder(applicationFolder, QStandardPaths::writableLocation(QStandardPaths::AppDataLocation));
     arguments.settingsFolder = folder(settingsFolder, SettingsStore::userFolder());
     arguments.outputFolder = folder(outputFolder, arguments.applicationFolder + u"/temp"_s);
+    arguments.outputNamed = parser.isSet(outputFolder);
     arguments.checkOnly = parser.isSet(check);
     if (parser.isSet(language))
         arguments.language = parser.value(language).toUpper();
     return arguments;
 }
 
-/// A run empties its folder first. One that holds files and was never a shop is surely a mistake.
+/// A run empties its folder first. One that a person names, that holds files and was never written by a run is
+/// surely a mistake.
 bool isForeign(const QString &folder)
 {
     const QDir dir(folder);
-    return dir.exists() && !dir.entryList(QDir::Files | QDir::Hidden).isEmpty() && !dir.exists(u"exmplmenu_var.js"_s)
-           && !dir.exists(u"menu_com.js"_s) && !dir.exists(u"store.css"_s);
+    return dir.exists() && !dir.entryList(QDir::Files | QDir::Hidden).isEmpty() && !dir.exists(u"nopcart.js"_s)
+           && !dir.exists(u"exmplmenu_var.js"_s);
 }
 
 bool isKnownLanguage(const QString &code, Connection &connection)
@@ -144,7 +147,7 @@ int run(const Arguments &arguments)
     const Clock clock;
     Session session(settings, clock, arguments.applicationFolder);
     session.readSettings();
-    if (!arguments.checkOnly && isForeign(arguments.outputFolder)) {
+    if (!arguments.checkOnly && arguments.outputNamed && isForeign(arguments.outputFolder)) {
         say(stderr, u"Le dossier %1 contient des fichiers qui ne sont pas d’une boutique ; rien n’a été fait."_s.arg(
                         arguments.outputFolder));
         return unusable;

@@ -1,18 +1,18 @@
 #include "data/Connection.h"
 
-#include <QStringList>
-
 using namespace Qt::StringLiterals;
 
 namespace {
 
-QString entry(const QString &connectionText, const QString &name)
+/// The path stands between its name and the password, and may hold a ";" itself.
+QString pathOf(const QString &connectionText)
 {
-    for (const QString &part : connectionText.split(u';')) {
-        if (part.startsWith(name + u'='))
-            return part.mid(name.size() + 1);
-    }
-    return {};
+    const QString name = u"DBQ="_s;
+    const qsizetype start = connectionText.indexOf(name);
+    if (start < 0)
+        return {};
+    const qsizetype end = connectionText.lastIndexOf(u";PWD="_s);
+    return connectionText.mid(start + name.size(), end < start ? -1 : end - start - name.size());
 }
 
 Result notOpen()
@@ -29,7 +29,7 @@ QString connectionText(const QString &gsDbPath)
 
 Result Connection::open(const QString &connectionText)
 {
-    m_path = entry(connectionText, u"DBQ"_s);
+    m_path = pathOf(connectionText);
     Result result;
     m_store = Store::open(m_path, result);
     return result;

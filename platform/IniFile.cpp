@@ -18,6 +18,9 @@ namespace {
 /// The library cuts trailing blanks of a value; this private character keeps them in place.
 constexpr QChar keptBlank = QChar(0xE020);
 
+/// A key that never reaches a file.
+const QString lastKey = QString(QChar(0xE021));
+
 QString protectTrailingBlanks(QString line)
 {
     for (qsizetype i = line.size() - 1; i >= 0 && line[i] == u' '; --i)
@@ -39,10 +42,16 @@ QString decoded(const QByteArray &bytes, QStringList &remarks)
     return text;
 }
 
+bool isCommentOrBlank(const QString &line)
+{
+    const QString plain = line.trimmed();
+    return plain.isEmpty() || plain.startsWith(u';') || plain.startsWith(u'#');
+}
+
 bool isWellFormed(const QString &line)
 {
     const QString plain = line.trimmed();
-    if (plain.isEmpty() || plain.startsWith(u';') || plain.startsWith(u'#'))
+    if (isCommentOrBlank(line))
         return true;
     if (plain.startsWith(u'['))
         return plain.endsWith(u']');
@@ -74,6 +83,8 @@ Result IniFile::load(const QString &path)
         }
         line = protectTrailingBlanks(line);
     }
+    // The library drops comments that no key follows, so a key of its own follows them.
+    lines << lastKey + u'=';
     const QByteArray bytes = lines.join(u'\n').toUtf8();
     if (m_content->ini.LoadData(bytes.constData(), size_t(bytes.size())) < 0)
         return {1, QStringLiteral("unreadable")};
@@ -87,7 +98,9 @@ Result IniFile::save(const QString &path) const
     QSaveFile file(path);
     if (!file.open(QIODevice::WriteOnly))
         return {1, file.errorString()};
-    file.write(QString::fromStdString(bytes).replace(keptBlank, u' ').toUtf8());
+    QStringList lines = QString::fromStdString(bytes).replace(keptBlank, u' ').split(u'\n');
+    lines.removeIf([](const QString &line) { return line.startsWith(lastKey); });
+    file.write(lines.join(u'\n').toUtf8());
     if (!file.commit())
         return {1, file.errorString()};
     return {};
@@ -112,6 +125,7 @@ QStringList IniFile::keys(const QString &section) const
     found.sort(CSimpleIniA::Entry::LoadOrder());
     QStringList names;
     for (const auto &entry : found)
-        names << QString::fromUtf8(entry.pItem);
+        if (const QString name = QString::fromUtf8(entry.pItem); name != lastKey)
+            names << name;
     return names;
 }

@@ -1,5 +1,7 @@
 #include "platform/SettingsStore.h"
 
+#include "platform/IniFile.h"
+
 #include <QDir>
 #include <QFile>
 #include <QSettings>
@@ -88,11 +90,10 @@ Result SettingsStore::check(const QString &application) const
     const QString path = fileName(application);
     if (!QFile::exists(path))
         return {};
-    QFile file(path);
-    if (!file.open(QIODevice::ReadOnly))
-        return {1, file.errorString()};
-    const QSettings settings(path, QSettings::IniFormat);
-    if (settings.status() != QSettings::NoError)
+    IniFile file;
+    if (Result loaded = file.load(path); !loaded)
+        return loaded;
+    if (!file.remarks().isEmpty())
         return {2, QStringLiteral("not in the form of a settings file")};
     return {};
 }

@@ -32,12 +32,21 @@ Result WholeFile::write(const QString &path, QByteArrayView bytes)
     QFile file(temporary);
     if (!file.open(QIODevice::WriteOnly | QIODevice::Truncate | QIODevice::Unbuffered))
         return {1, file.errorString()};
-    const bool written = file.write(bytes.data(), bytes.size()) == bytes.size();
-    const QString cause = file.errorString();
+    // A disk that fills takes a part and names the cause only when it is asked for the rest.
+    qint64 done = 0;
+    while (done < bytes.size()) {
+        const qint64 taken = file.write(bytes.data() + done, bytes.size() - done);
+        if (taken <= 0)
+            break;
+        done += taken;
+    }
+    QString cause = file.errorString();
     file.close();
-    if (!written || file.error() != QFileDevice::NoError) {
+    if (done != bytes.size() || file.error() != QFileDevice::NoError) {
+        if (done == bytes.size())
+            cause = file.errorString();
         file.remove();
-        return {1, written ? file.errorString() : cause};
+        return {1, cause};
     }
     std::error_code failed;
     std::filesystem::rename(native(temporary), native(path), failed);

@@ -1,5 +1,7 @@
 #include "shell/HtmlVersTexte.h"
 
+#include "platform/CodePage.h"
+
 #include <QHash>
 
 #include <array>
@@ -268,6 +270,9 @@ QString EntiteVersTexte(QStringView name)
         const char32_t number = name.mid(1).toUInt(&isNumber);
         if (!isNumber || number == 0 || number > QChar::LastValidCodePoint || QChar::isSurrogate(number))
             return {};
+        // Numbers of the upper control block mean the characters of the shop's code page, as authors write them.
+        if (number >= 0x80 && number < 0xA0)
+            return CodePage::decode(QByteArray(1, char(number)));
         return QString::fromUcs4(&number, 1);
     }
     static const QHash<QString, QString> table = entityTable();

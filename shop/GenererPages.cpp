@@ -107,6 +107,9 @@ private:
             });
             m_output.picture(path, file);
         }
+        // The first goes out once more: of two pictures of one name on a product it is the one that stays.
+        if (paths.size() > 1)
+            m_output.picture(paths.first(), m_picture);
         return quoteRule(cells);
     }
 

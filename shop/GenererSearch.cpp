@@ -14,7 +14,7 @@ void SearchIndex::add(const QString &fileName, const QString &text)
     // why names are checked before a run.
     const QString line = u"array_files["_s + QString::number(m_count) + u"]=new Array(0,'HTM','"_s + fileName + u"','"_s
                          + m_title + u"','','','"_s + plain + u"');\r\n"_s;
-    CodePage::append(m_statements, toDoubleQuotes(line));
+    m_lost += CodePage::append(m_statements, toDoubleQuotes(line));
     ++m_count;
 }
 

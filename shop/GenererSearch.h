@@ -12,12 +12,15 @@ public:
     /// Adds a page; `text` is its HTML.
     void add(const QString &fileName, const QString &text);
     int count() const { return m_count; }
+    /// Characters that the code page lacks, over all pages.
+    int lost() const { return m_lost; }
     const QByteArray &statements() const { return m_statements; }
 
 private:
     QString m_title;
     QByteArray m_statements;
     int m_count = 0;
+    int m_lost = 0;
 };
 
 /// The bytes of `searchdb.js`.

@@ -27,7 +27,7 @@ QString frenchLine(Incident::Kind kind)
     case Incident::PictureNotCopied:
         return u"Image %1 non copiée : %2"_s;
     case Incident::PicturesOfOneName:
-        return u"Deux images différentes portent le nom %1, la dernière reste : %2"_s;
+        return u"Deux images différentes portent le nom %1, une seule reste : %2"_s;
     case Incident::AssetNotCopied:
         return u"Fichier fixe %1 non copié : %2"_s;
     case Incident::LogoNotCopied:
@@ -55,9 +55,9 @@ struct Cause {
     QString french;
 };
 
-const std::array<Cause, 10> &causes()
+const std::array<Cause, 12> &causes()
 {
-    static const std::array<Cause, 10> table = {{
+    static const std::array<Cause, 12> table = {{
         {u"c1"_s, u"No such file or directory"_s, u"fichier introuvable"_s},
         {u"c2"_s, u"Permission denied"_s, u"accès refusé"_s},
         {u"c3"_s, u"No space left on device"_s, u"plus de place sur le disque"_s},
@@ -67,6 +67,8 @@ const std::array<Cause, 10> &causes()
         {u"c7"_s, u"not UTF-8, read as UTF-16"_s, u"pas en UTF-8, lu en UTF-16"_s},
         {u"c8"_s, u"no \"key=value\" in line"_s, u"pas de « clé=valeur » à la ligne"_s},
         {u"c10"_s, u"can't be written"_s, u"ne peut pas être écrit"_s},
+        {u"c11"_s, u"Not a directory"_s, u"un fichier porte le nom d’un dossier"_s},
+        {u"c12"_s, u"File exists"_s, u"ce nom existe déjà"_s},
         {u"c9"_s, u"not in the form of a settings file"_s, u"n’a pas la forme d’un fichier de réglages"_s},
     }};
     return table;

@@ -199,7 +199,7 @@ QString frenchLine(Finding::Kind kind)
     case Finding::ReferencesMeet:
         return u"Ces références donnent la même page, la dernière reste : %1"_s;
     case Finding::PicturesOfOneName:
-        return u"Deux images différentes portent le même nom de fichier, la dernière reste : %1"_s;
+        return u"Deux images différentes portent le même nom de fichier, une seule reste : %1"_s;
     case Finding::PictureGone:
         return u"Image introuvable : %1"_s;
     case Finding::CharactersLost:

@@ -8,6 +8,8 @@
 #include <QFileInfo>
 
 #include <algorithm>
+#include <filesystem>
+#include <system_error>
 
 using namespace Qt::StringLiterals;
 
@@ -33,6 +35,17 @@ QByteArray readWhole(const QString &path, QString &cause)
         return {};
     }
     return bytes.isNull() ? QByteArray("") : bytes;
+}
+
+/// Makes a folder with its parents; gives the cause of a failure, or nothing.
+QString makeFolder(const QString &path)
+{
+    std::error_code failed;
+    const std::filesystem::path folder(path.toStdU16String());
+    std::filesystem::create_directories(folder, failed);
+    if (!failed && !std::filesystem::is_directory(folder, failed) && !failed)
+        failed = std::make_error_code(std::errc::not_a_directory);
+    return failed ? QString::fromStdString(failed.message()) : QString();
 }
 
 QStringList assetsOf(const ShopData &data)
@@ -66,13 +79,13 @@ ShopFolder::ShopFolder(QString path, RunReport &report) : m_path(std::move(path)
 
 bool ShopFolder::prepare(const QString &imgFolder)
 {
-    if (!QDir().mkpath(m_path) || !QFileInfo(m_path).isDir()) {
-        m_report.add(Incident::FolderNotMade, m_path, u"-"_s);
+    if (const QString cause = makeFolder(m_path); !cause.isEmpty()) {
+        m_report.add(Incident::FolderNotMade, m_path, cause);
         return false;
     }
     markOldFiles();
-    if (!QDir().mkpath(m_path + u'/' + imagesFolder))
-        m_report.add(Incident::FolderNotMade, imagesFolder, u"-"_s);
+    if (const QString cause = makeFolder(m_path + u"/images"_s); !cause.isEmpty())
+        m_report.add(Incident::FolderNotMade, imagesFolder, cause);
     if (!QFileInfo(imgFolder).isDir())
         m_report.add(Incident::AssetNotCopied, u"img"_s, u"No such file or directory"_s);
     copyAssets(imgFolder, {u"*.gif"_s, u"buy.*"_s}, imagesFolder);
@@ -95,8 +108,10 @@ void ShopFolder::markOldFiles()
 void ShopFolder::copyAssets(const QString &imgFolder, const QStringList &patterns, const QString &subFolder)
 {
     const QDir folder(imgFolder);
-    for (const QString &name : folder.entryList(patterns, QDir::Files))
+    for (const QString &name : folder.entryList(patterns, QDir::Files)) {
         copy(folder.filePath(name), subFolder + name, Incident::AssetNotCopied);
+        m_origins.insert(subFolder + name, name);
+    }
 }
 
 void ShopFolder::copyLogo(const QString &path)
@@ -147,20 +162,22 @@ void ShopFolder::page(const Page &page)
     m_bytes.resize(0);
     if (const int lost = CodePage::append(m_bytes, page.text))
         m_report.add(Incident::CharactersLost, page.fileName, QString::number(lost));
-    write(page.fileName, m_bytes);
-    ++m_pages;
+    if (write(page.fileName, m_bytes))
+        ++m_pages;
 }
 
-void ShopFolder::write(const QString &fileName, QByteArrayView bytes)
+bool ShopFolder::write(const QString &fileName, QByteArrayView bytes)
 {
     m_oldFiles.remove(fileName);
     const QString path = m_path + u'/' + fileName;
     if (WholeFile::holds(path, bytes)) {
         ++m_unchanged;
-        return;
+        return true;
     }
-    if (const Result written = WholeFile::write(path, bytes); !written)
+    const Result written = WholeFile::write(path, bytes);
+    if (!written)
         m_report.add(Incident::FileNotWritten, fileName, written.text());
+    return bool(written);
 }
 
 void ShopFolder::picture(const QString &sourcePath, const QString &fileName)
@@ -173,22 +190,25 @@ void ShopFolder::picture(const QString &sourcePath, const QString &fileName)
     }
     yield();
     const QString earlier = m_pictures.value(fileName);
-    if (!earlier.isEmpty()) {
+    if (!earlier.isEmpty() && !m_clashes.contains(fileName)) {
         QString cause;
-        if (readWhole(earlier, cause) != readWhole(sourcePath, cause))
+        if (readWhole(earlier, cause) != readWhole(sourcePath, cause)) {
+            m_clashes.insert(fileName);
             m_report.add(Incident::PicturesOfOneName, fileName, earlier + u", "_s + sourcePath);
+        }
     }
-    copy(sourcePath, imagesFolder + fileName, Incident::PictureNotCopied);
+    if (copy(sourcePath, imagesFolder + fileName, Incident::PictureNotCopied))
+        m_copied.insert(fileName);
     m_pictures.insert(fileName, sourcePath);
     yield();
 }
 
-void ShopFolder::copy(const QString &sourcePath, const QString &targetName, Incident::Kind incident)
+bool ShopFolder::copy(const QString &sourcePath, const QString &targetName, Incident::Kind incident)
 {
     QString cause;
     const QByteArray bytes = readWhole(sourcePath, cause);
-    if (bytes.isNull())
-        m_report.add(incident, sourcePath, cause);
-    else
-        write(targetName, bytes);
+    if (!bytes.isNull())
+        return write(targetName, bytes);
+    m_report.add(incident, sourcePath, cause);
+    return false;
 }

@@ -27,11 +27,12 @@ public:
 
     void page(const Page &page) override;
     void picture(const QString &sourcePath, const QString &fileName) override;
-    void write(const QString &fileName, QByteArrayView bytes);
+    /// Whether the file holds the bytes now.
+    bool write(const QString &fileName, QByteArrayView bytes);
 
     const QString &path() const { return m_path; }
     int pages() const { return m_pages; }
-    int pictures() const { return int(m_pictures.size()); }
+    int pictures() const { return int(m_copied.size()); }
     int unchanged() const { return m_unchanged; }
 
     /// Called around each copy of a picture, so that a window can repaint during a long run.
@@ -40,14 +41,16 @@ public:
 private:
     void markOldFiles();
     void copyAssets(const QString &imgFolder, const QStringList &patterns, const QString &subFolder);
-    void copy(const QString &sourcePath, const QString &targetName, Incident::Kind incident);
+    bool copy(const QString &sourcePath, const QString &targetName, Incident::Kind incident);
     bool isAcceptable(const QString &fileName) const;
 
     QString m_path;
     RunReport &m_report;
     QSet<QString> m_oldFiles;
-    QHash<QString, QString> m_origins;  ///< by file name, of the pages written
+    QHash<QString, QString> m_origins;  ///< by file name, of the pages and assets written
     QHash<QString, QString> m_pictures; ///< by file name, the path each was copied from
+    QSet<QString> m_copied;             ///< names of the pictures that lie in `images` now
+    QSet<QString> m_clashes;            ///< names that two different pictures have
     QByteArray m_bytes;
     int m_pages = 0;
     int m_unchanged = 0;

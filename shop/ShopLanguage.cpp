@@ -9,6 +9,10 @@ std::vector<Language> readLanguages(Connection &connection, Result &result)
 {
     std::vector<Language> languages;
     Reader rows = connection.read(u"SELECT * FROM REF_LANGUE_U ORDER BY LANGUE"_s);
+    if (rows.result() && rows.columnCount() < 2) {
+        result = {1, u"REF_LANGUE_U lacks a column"_s};
+        return {};
+    }
     while (rows.next())
         if (!rows.isNull(0))
             languages.push_back({rows.text(0), rows.text(1)});

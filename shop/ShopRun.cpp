@@ -95,6 +95,8 @@ void genererBoutique(const ShopData &data, const Selection &selection, Session &
     output.page(menu.page);
     CatalogueReader catalogue(session, report);
     GenererPages(data, menu.listPages, catalogue, output);
+    if (index.lost() > 0)
+        report.add(Incident::CharactersLost, u"searchdb.js"_s, QString::number(index.lost()));
     if (data.settings.chSearch)
         folder.write(u"searchdb.js"_s, GenererSearch(index));
 }

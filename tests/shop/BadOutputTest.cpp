@@ -47,7 +47,7 @@ void BadOutputTest::inTheWay()
     else
         Files::write(path, "a file");
     if (inTheWay == u"out/images"_s)
-        Files::write(shop.output() + u"/store.css"_s, "of an earlier shop");
+        Files::write(shop.output() + u"/nopcart.js"_s, "of an earlier shop");
     const ShopCommand::Run run = shop.run();
     QVERIFY2(run.status == 1 || (run.status == 2 && !QFileInfo(shop.output()).isDir()), qPrintable(run.err.left(2000)));
     // Some words behind the piece say what is the matter with it.

@@ -723,5 +723,5 @@ INSERT INTO T_PRODUIT (
     'De geëtste tanden snijden meer dan ze raspen: citroenschil dwarrelt neer zonder het bittere wit en harde kaas wordt sneeuw. Mooi ronde greep van acacia, beschermhoes inbegrepen. Let op uw vingers als u bijna klaar bent, hij is echt scherp.',
     'Die geätzten Zähne schneiden mehr, als dass sie reiben: Zitronenschale rieselt ohne das bittere Weiße herab, und Hartkäse wird zu Schnee. Gut gerundeter Akaziengriff, Schutzhülle liegt bei. Zum Schluss auf die Finger achten, sie ist wirklich scharf.',
     'I denti incisi tagliano più che grattare: la scorza di limone cade come pioggia, senza l’amaro della parte bianca, e il formaggio stagionato diventa neve. Manico in acacia ben arrotondato, custodia compresa. Attenzione alle dita verso la fine, è affilata davvero.',
-    ''
+    'Sus dientes grabados cortan más que rallan: la piel de limón cae en lluvia, sin el amargor de la parte blanca, y el parmesano se vuelve nieve. Mango redondeado de acacia y funda protectora incluida. Cuidado con los dedos al final: está afilado de verdad.'
 );

@@ -155,7 +155,7 @@ INSERT INTO T_PRODUIT (
     '2.05', '17.42', 1, '20.90', '397.10', '707500',
     'Réserve H, étagère 3', 'Emballage cadeau non proposé', 'Code douanier 4602',
     'Pour habiller le pot en plastique d’un ficus ou d’une fougère. L’osier brun est tressé serré sur une armature rigide, et un film étanche tapisse le fond : le parquet ne risque rien. Les deux anses permettent de déplacer la plante d’un geste le jour du ménage.',
-    '',
+    'Made to dress up the plastic pot of a ficus or a fern. The brown wicker is woven tightly over a rigid frame, and a waterproof film lines the bottom, so the parquet is safe. With its two handles you move the plant in one go on cleaning day.',
     'Om de plastic pot van een ficus of varen aan te kleden. De bruine wilgentenen zijn dicht gevlochten op een stevig frame en de bodem is met waterdichte folie bekleed: uw parket loopt geen gevaar. Met de twee handvatten verplaatst u de plant in één beweging.',
     'Zum Einkleiden des Plastiktopfs von Ficus oder Farn. Braune Weide ist dicht um ein festes Gestell geflochten, der Boden ist mit wasserdichter Folie ausgelegt: Dem Parkett passiert nichts. An den zwei Griffen lässt sich die Pflanze am Putztag mit einem Handgriff versetzen.',
     'Per vestire il vaso di plastica di un ficus o di una felce. Il vimini bruno è intrecciato fitto su un telaio rigido e il fondo è rivestito di un film impermeabile: il parquet non corre rischi. Con i due manici la pianta si sposta in un attimo il giorno delle pulizie.',
@@ -359,7 +359,7 @@ INSERT INTO T_PRODUIT (
     'Trois dents recourbées qui cassent la croûte du sol, arrachent les jeunes herbes et incorporent le compost sans blesser les racines. Même manche et presque la même longueur que le transplantoir, pour ceux qui aiment les outils qui vont par paire.',
     'Three curved tines that break the crust of the soil, pull out young weeds and work in compost without hurting the roots. Same handle and much the same length as the trowel, for those who like their tools to come in pairs.',
     'Drie gebogen tanden die de korst van de grond breken, jong onkruid uittrekken en compost inwerken zonder de wortels te beschadigen. Dezelfde steel als het plantschepje en bijna even lang, voor wie graag bij elkaar passend gereedschap heeft.',
-    '',
+    'Drei gebogene Zinken, die die Bodenkruste aufbrechen, junges Unkraut herausziehen und Kompost einarbeiten, ohne die Wurzeln zu verletzen. Gleicher Griff und fast die gleiche Länge wie die Pflanzkelle, für alle, die Werkzeuge gern im Paar haben.',
     'Tre denti ricurvi che rompono la crosta del terreno, estirpano le erbacce giovani e incorporano il compost senza ferire le radici. Stesso manico e quasi la stessa lunghezza della paletta, per chi ama gli attrezzi che vanno in coppia.',
     'Tres dientes curvos que rompen la costra del suelo, arrancan las hierbas jóvenes e incorporan el compost sin dañar las raíces. El mismo mango y casi el mismo largo que el trasplantador, para quienes gustan de las herramientas a juego.'
 );
@@ -440,6 +440,6 @@ INSERT INTO T_PRODUIT (
     'Goatskin is supple from the very first day, and rose thorns do not get the better of it. The long canvas cuff protects the forearm. Size 9, which suits most hands; let them dry in the shade, never on a radiator.',
     'Geitenleer is vanaf de eerste dag soepel en rozendoorns krijgen er geen vat op. De lange manchet van canvas beschermt de onderarm. Maat 9, geschikt voor de meeste handen; laat ze in de schaduw drogen, nooit op een radiator.',
     'Ziegenleder ist vom ersten Tag an geschmeidig, und Rosendornen können ihm nichts anhaben. Die lange Stulpe aus Segeltuch schützt den Unterarm. Größe 9 passt den meisten Händen; im Schatten trocknen lassen, niemals auf der Heizung.',
-    '',
+    'La pelle di capra è morbida fin dal primo giorno e le spine delle rose non la spuntano. Il lungo polsino di tela protegge l’avambraccio. Taglia 9, adatta alla maggior parte delle mani; lasciateli asciugare all’ombra, mai su un termosifone.',
     'El cuero de cabra es flexible desde el primer día y las espinas de los rosales no pueden con él. El largo puño de lona protege el antebrazo. Talla 9, que sirve a la mayoría de las manos; déjelos secar a la sombra, nunca sobre un radiador.'
 );

@@ -681,7 +681,7 @@ INSERT INTO T_PRODUIT (
     'Quatre vitres, un toit ajouré, une porte qui ferme bien : le vent peut souffler, la bougie continue. Posée sur une marche ou suspendue à une branche, la lanterne guide les invités jusqu’à la table. Rentrez-la l’hiver, la peinture vous dira merci.',
     'Four panes, a pierced roof and a door that shuts properly: let the wind blow, the candle carries on. On a step or hung from a branch, the lantern leads your guests to the table. Bring it indoors in winter; the paint will thank you.',
     'Vier ruitjes, een opengewerkt dak en een deurtje dat goed sluit: laat het maar waaien, de kaars blijft branden. Op een traptrede of aan een tak wijst de lantaarn uw gasten de weg naar de tafel. Haal hem in de winter binnen, dan blijft de verf mooi.',
-    '',
+    'Vier Scheiben, ein durchbrochenes Dach und eine Tür, die gut schließt: Der Wind mag blasen, die Kerze brennt weiter. Auf eine Stufe gestellt oder an einen Ast gehängt, weist die Laterne den Gästen den Weg zum Tisch. Holen Sie sie im Winter herein, der Lack dankt es Ihnen.',
     'Quattro vetri, un tetto traforato, uno sportello che chiude bene: può soffiare il vento, la candela continua. Appoggiata su un gradino o appesa a un ramo, la lanterna guida gli ospiti fino alla tavola. D’inverno portatela in casa: la vernice vi ringrazierà.',
     'Cuatro cristales, un tejado calado y una puerta que cierra bien: que sople el viento, la vela sigue ardiendo. Sobre un escalón o colgado de una rama, el farol guía a los invitados hasta la mesa. Guárdelo en invierno: la pintura se lo agradecerá.'
 );

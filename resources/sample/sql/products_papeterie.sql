@@ -156,7 +156,7 @@ INSERT INTO T_PRODUIT (
     'Vitrine, tiroir 1', 'Emballage cadeau possible', 'Code douanier 9608',
     'Tourné dans des chutes de noyer venues d’un fabricant de meubles, chaque stylo a son veinage. Le mécanisme à vis se fait entendre d’un petit clic rassurant. Il prend les recharges au format international, que vous trouverez partout, et même chez nous.',
     'Turned from walnut offcuts supplied by a furniture maker, each pen has its own grain. The twist mechanism closes with a small, reassuring click. It takes international format refills, which you will find anywhere, including here.',
-    '',
+    'Elke pen is gedraaid uit notenhout dat bij een meubelmaker overbleef en heeft zijn eigen tekening. Het draaimechanisme meldt zich met een geruststellend klikje. Er passen vullingen van het internationale formaat in, die u overal vindt, ook bij ons.',
     'Aus Reststücken einer Möbeltischlerei gedrechselt, hat jeder Stift seine eigene Maserung. Der Drehmechanismus rastet mit einem beruhigenden kleinen Klick ein. Er nimmt Großraumminen im internationalen Format auf, die Sie überall finden, auch bei uns.',
     'Tornita da scarti di noce di un mobilificio, ogni penna ha le sue venature. Il meccanismo a rotazione si chiude con un piccolo clic rassicurante. Accetta i refill di formato internazionale, che si trovano dappertutto, anche da noi.',
     'Torneado con recortes de nogal de un fabricante de muebles, cada bolígrafo tiene su propia veta. El mecanismo giratorio se cierra con un pequeño clic que da confianza. Admite recambios de formato internacional, que encontrará en todas partes, también aquí.'
