@@ -8,6 +8,7 @@
 
 #include <QFile>
 #include <QFileInfo>
+#include <QUrl>
 
 namespace {
 
@@ -58,7 +59,26 @@ std::unique_ptr<Store> Store::open(const QString &path, Result &result, int pati
     } catch (const SQLite::Exception &e) {
         result = failure(e);
     }
+    if (result.number() == SQLITE_READONLY || result.number() == SQLITE_CANTOPEN)
+        return openUnwritable(path, result);
     return nullptr;
+}
+
+/// A store that may only be read, in a folder where the library can't put its files beside it.
+std::unique_ptr<Store> Store::openUnwritable(const QString &path, Result &result)
+{
+    const QByteArray address = "file:" + QUrl::toPercentEncoding(path, "/") + "?immutable=1";
+    try {
+        auto database =
+            std::make_unique<SQLite::Database>(address.toStdString(), SQLite::OPEN_READONLY | SQLITE_OPEN_URI);
+        if (!StoreText::install(database->getHandle()))
+            return nullptr;
+        SQLite::Statement(*database, "SELECT count(*) FROM sqlite_master").executeStep();
+        result = {};
+        return std::unique_ptr<Store>(new Store(std::move(database)));
+    } catch (const SQLite::Exception &) {
+        return nullptr; // the first failure stays the one to tell
+    }
 }
 
 std::unique_ptr<Store> Store::create(const QString &path, Result &result)

@@ -53,9 +53,9 @@ class Store {
 public:
     ~Store();
 
-    /// Opens an existing store for reading and writing; never creates one. Null on failure, with the reason in
-    /// `result`: 14 no such file, 26 not a store, 11 damaged, 5 locked by another program (after
-    /// `patience` milliseconds), else the number of the library.
+    /// Opens an existing store for reading and writing, or for reading where the user may not write; never creates one.
+    /// Null on failure, with the reason in `result`: 14 no such file, 26 not a store, 11 damaged, 5 locked by another
+    /// program (after `patience` milliseconds), else the number of the library.
     static std::unique_ptr<Store> open(const QString &path, Result &result, int patience = 5000);
     /// Makes a new, empty store at a path where nothing stands yet. For the store builder.
     static std::unique_ptr<Store> create(const QString &path, Result &result);
@@ -70,6 +70,7 @@ public:
 private:
     friend class Reader;
     explicit Store(std::unique_ptr<SQLite::Database> database);
+    static std::unique_ptr<Store> openUnwritable(const QString &path, Result &result);
     std::shared_ptr<SQLite::Statement> take(const QString &statement);
     void keep(const QString &statement, std::shared_ptr<SQLite::Statement> prepared);
 

@@ -25,13 +25,16 @@ frmTrad::frmTrad(Session &screenSession, const QString &Tag, const QString &capt
     connect(m_ui->cmdValider0, &QPushButton::clicked, this, &frmTrad::validate);
     connect(m_ui->cmdFermer, &QPushButton::clicked, this, &frmTrad::reject);
     opened();
-    const auto give = [this](QPushButton &button, const QString &key) {
-        if (const QString text = session().localisation.Traduire(u"MVT"_s, key); !text.trimmed().isEmpty())
+    // Its own words are those of the windows, also while the shop screen reads those of the shop.
+    Localisation windows = session().localisation;
+    windows.gbLangueCatalogue = false;
+    const auto give = [&windows](QPushButton &button, const QString &key) {
+        if (const QString text = windows.Traduire(u"MVT"_s, key); !text.trimmed().isEmpty())
             button.setText(text);
     };
     give(*m_ui->cmdValider0, u"11"_s);
     give(*m_ui->cmdFermer, u"12"_s);
-    if (const QString text = session().localisation.Traduire(u"PARAM"_s, u"28"_s); !text.trimmed().isEmpty())
+    if (const QString text = windows.Traduire(u"PARAM"_s, u"28"_s); !text.trimmed().isEmpty())
         m_ui->lbTitre->setText(text);
     setProperty("Tag", m_section);
     setWindowTitle(caption);

@@ -1,6 +1,7 @@
 #include "shop/ShopCheck.h"
 
 #include "platform/CodePage.h"
+#include "shell/HtmlVersTexte.h"
 #include "shop/CompanyInfo.h"
 
 #include <QFileInfo>
@@ -57,7 +58,12 @@ private:
             for (const ShippingMethod &method : s.fpSpread12)
                 if (method.value.contains(u','))
                     add(Finding::CommaInShippingPrice, method.name, u"fpSpread12"_s);
-        if (holdsAny(s.txtTitre, u"\"\\"))
+        numbers();
+        if (holdsAny(s.txtSymbol, u"'\"\\"))
+            add(Finding::QuoteInSetting, s.txtSymbol, u"txtSymbol"_s);
+        logo();
+        // The title stands in every line of the search, where its apostrophes turn into double quotes too.
+        if (holdsAny(s.txtTitre, u"'\"\\"))
             add(Finding::QuoteInName, s.txtTitre, u"txtTitre"_s);
         if (s.txtPPEmail.trimmed().isEmpty())
             add(Finding::NoPaymentAccount, {}, u"txtPPEmail"_s);
@@ -70,9 +76,48 @@ private:
                                                      {u"txtPrivacy"_s, s.txtPrivacy},
                                                      {u"txtKeyword"_s, s.txtKeyword},
                                                      {u"txtDescription"_s, s.txtDescription}};
-        for (const auto &[control, text] : texts)
+        for (const auto &[control, text] : texts) {
             if (losesCharacters(text))
                 add(Finding::CharactersLost, text.left(40), control);
+            if (s.chSearch && text.contains(u'\\'))
+                add(Finding::QuoteInText, text.left(40), control);
+        }
+    }
+
+    static bool isNumber(const QString &text)
+    {
+        bool isOne = false;
+        text.trimmed().toDouble(&isOne);
+        return isOne;
+    }
+
+    void numbers()
+    {
+        const ShopSettings &s = m_data.settings;
+        const std::pair<QString, QString> fields[] = {{u"txtMin"_s, s.txtMin}, {u"txtTaxe"_s, s.txtTaxe}};
+        for (const auto &[control, text] : fields)
+            if (!text.trimmed().isEmpty() && !isNumber(text))
+                add(Finding::NotANumber, text, control);
+        if (s.chGratuit)
+            return;
+        for (const ShippingMethod &method : s.fpSpread12) {
+            if (!method.value.isEmpty() && !method.value.contains(u',') && !isNumber(method.value))
+                add(Finding::NotANumber, method.name + u": "_s + method.value, u"fpSpread12"_s);
+            if (holdsAny(method.name, u"'\"\\"))
+                add(Finding::QuoteInSetting, method.name, u"fpSpread12"_s);
+        }
+    }
+
+    /// The banner names the logo by its file name alone; the file comes from the setting or the company data.
+    void logo()
+    {
+        const ShopSettings &s = m_data.settings;
+        if (s.txtFile.isEmpty())
+            return;
+        const QString source =
+            s.txtFile == u"logo.gif"_s && s.txtLogo.isEmpty() ? m_data.info(13).trimmed() : s.txtLogo;
+        if (source.isEmpty() || !QFileInfo(m_session.filePath(source)).isFile())
+            add(Finding::PictureGone, s.txtFile, u"txtLogo"_s);
     }
 
     /// The lines that the contact page and the checkouts show.
@@ -117,6 +162,14 @@ private:
     void products()
     {
         const QSet<qint64> families = publishedFamilies();
+        for (const QString &name : {u"index"_s, u"contact"_s, u"terme"_s, u"expedition"_s, u"privacy"_s, u"checkout"_s,
+                                    u"checkout_cc"_s, u"checkout_mf"_s, u"blank"_s, u"thanks"_s})
+            m_pages.insert(name, name + u".htm"_s);
+        for (const SelectionRow &group : m_selection.rows)
+            for (int i = group.first; group.idCategorie && i <= group.last; ++i)
+                if (const auto &family = m_selection.rows[size_t(i)].idFamille)
+                    m_pages.insert(u"g%1_s%2"_s.arg(*group.idCategorie).arg(*family),
+                                   u"g%1_s%2.htm"_s.arg(*group.idCategorie).arg(*family));
         const QString code = m_data.language.sLangueHtm;
         Reader row = m_session.gCnn.read(u"SELECT idProduit, idFamille, sRef, sNom"_s + code
                                          + u", sPrixVenteTTC, sObservation"_s + code + u" FROM T_PRODUIT"_s);
@@ -137,6 +190,14 @@ private:
             add(Finding::NoName, reference);
         if (price.trimmed().isEmpty())
             add(Finding::NoPrice, reference);
+        else if (!isNumber(price))
+            add(Finding::NotANumber, reference + u": "_s + price);
+        if (m_data.settings.chSearch && description.contains(u'\\'))
+            add(Finding::QuoteInText, reference + u" / "_s + name);
+        else if (m_data.settings.chSearch && description.contains(u'"') && HtmlVersTexte(description).contains(u'"'))
+            add(Finding::QuoteInText, reference + u" / "_s + name);
+        if (holdsAny(reference, u"\\:*?\"<>|#%"))
+            add(Finding::BadReference, reference);
         if (holdsAny(name, u"\"\\"))
             add(Finding::QuoteInName, reference + u" / "_s + name);
         if (name.contains(u'|'))
@@ -214,6 +275,14 @@ QString frenchLine(Finding::Kind kind)
         return u"Le compte PayPal est vide : les paiements n’arriveraient nulle part."_s;
     case Finding::DeliveredPaymentAccount:
         return u"Le compte PayPal est encore celui d’origine (%1) : mettez le vôtre."_s;
+    case Finding::QuoteInText:
+        return u"« %1 » contient un guillemet droit ou une barre inverse dans son texte : la recherche de la boutique ne marcherait pas."_s;
+    case Finding::NotANumber:
+        return u"« %1 » n’est pas un nombre écrit avec un point."_s;
+    case Finding::QuoteInSetting:
+        return u"« %1 » contient une apostrophe, un guillemet droit ou une barre inverse, qui couperait le panier ou la commande."_s;
+    case Finding::BadReference:
+        return u"La référence « %1 » ne peut pas donner un nom de page."_s;
     case Finding::CatalogueNotRead:
         return u"Le catalogue n’a pas pu être lu : %1"_s;
     }

@@ -24,6 +24,10 @@ struct Finding {
         NoPaymentAccount,
         DeliveredPaymentAccount,
         CatalogueNotRead,
+        QuoteInText,
+        NotANumber,
+        QuoteInSetting,
+        BadReference,
     };
     Kind kind;
     QString subject; ///< the product, the name or the field it is about

@@ -110,7 +110,7 @@ void ShopFolder::copyAssets(const QString &imgFolder, const QStringList &pattern
     const QDir folder(imgFolder);
     for (const QString &name : folder.entryList(patterns, QDir::Files)) {
         copy(folder.filePath(name), subFolder + name, Incident::AssetNotCopied);
-        m_origins.insert(subFolder + name, name);
+        m_assets.insert(subFolder + name, name);
     }
 }
 
@@ -149,11 +149,21 @@ bool ShopFolder::isAcceptable(const QString &fileName) const
            && std::none_of(fileName.begin(), fileName.end(), [](QChar c) { return c < u' ' || refused.contains(c); });
 }
 
-void ShopFolder::page(const Page &page)
+void ShopFolder::beginRun()
+{
+    m_origins = m_assets;
+    m_pictures.clear();
+    m_copied.clear();
+    m_clashes.clear();
+    m_pages = 0;
+    m_unchanged = 0;
+}
+
+bool ShopFolder::take(const Page &page)
 {
     if (!isAcceptable(page.fileName)) {
         m_report.add(Incident::FileNameRefused, page.fileName, page.origin);
-        return;
+        return false;
     }
     if (const auto earlier = m_origins.constFind(page.fileName); earlier == m_origins.constEnd())
         m_origins.insert(page.fileName, page.origin);
@@ -164,6 +174,7 @@ void ShopFolder::page(const Page &page)
         m_report.add(Incident::CharactersLost, page.fileName, QString::number(lost));
     if (write(page.fileName, m_bytes))
         ++m_pages;
+    return true;
 }
 
 bool ShopFolder::write(const QString &fileName, QByteArrayView bytes)

@@ -25,7 +25,12 @@ public:
     /// Removes what `prepare` marked and nothing wrote since. Files that their owner may not write stay.
     void removeOldFiles();
 
-    void page(const Page &page) override;
+    /// Forgets what an earlier run wrote, which the counts and the clashes of names would otherwise hold.
+    void beginRun();
+
+    void page(const Page &page) override { (void)take(page); }
+    /// Writes a page; false when its name is none that a file may have.
+    bool take(const Page &page);
     void picture(const QString &sourcePath, const QString &fileName) override;
     /// Whether the file holds the bytes now.
     bool write(const QString &fileName, QByteArrayView bytes);
@@ -48,6 +53,7 @@ private:
     RunReport &m_report;
     QSet<QString> m_oldFiles;
     QHash<QString, QString> m_origins;  ///< by file name, of the pages and assets written
+    QHash<QString, QString> m_assets;   ///< by file name, the fixed files
     QHash<QString, QString> m_pictures; ///< by file name, the path each was copied from
     QSet<QString> m_copied;             ///< names of the pictures that lie in `images` now
     QSet<QString> m_clashes;            ///< names that two different pictures have

@@ -32,8 +32,8 @@ public:
 
     void page(const Page &page) override
     {
-        m_folder.page(page);
-        if (m_index && page.indexed)
+        // A page that is refused its name must not be found either.
+        if (m_folder.take(page) && m_index && page.indexed)
             m_index->add(page.fileName, page.text);
     }
     void picture(const QString &sourcePath, const QString &fileName) override
@@ -70,6 +70,10 @@ ShopData readShopData(Session &session, const std::optional<QString> &language, 
     session.localisation.gsLangueCatalogue = data.language.gsLangueCatalogue;
     checkLanguageFile(session.localisation.fileName(data.language.gsLangueCatalogue), report);
     data.words = Traduction::read(session.localisation);
+    if (const int missing = data.words.missing())
+        report.add(Incident::LanguageFile,
+                   QFileInfo(session.localisation.fileName(data.language.gsLangueCatalogue)).fileName(),
+                   u"texts missing in [CATALOG]: "_s + QString::number(missing));
     data.gInfo = session.gInfo;
     data.gsLogin = session.gsLogin;
     data.gsMonnaie = session.gsMonnaie;
@@ -80,6 +84,7 @@ ShopData readShopData(Session &session, const std::optional<QString> &language, 
 void genererBoutique(const ShopData &data, const Selection &selection, Session &session, ShopFolder &folder,
                      RunReport &report)
 {
+    folder.beginRun();
     SearchIndex index(data.settings.txtTitre);
     IndexingOutput output(folder, data.settings.chSearch ? &index : nullptr);
     const auto writeAll = [&output](const std::vector<Page> &pages) {

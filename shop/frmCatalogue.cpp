@@ -306,6 +306,12 @@ void frmCatalogue::generate()
             m_report.add(Incident::SettingsFile, SettingsKey::application, saved.text());
         setRunning(false);
         check();
+        Localisation windows = session().localisation;
+        windows.gbLangueCatalogue = false;
+        m_ui->lbEtat->setText(windows.Traduire(u"RUN"_s, u"done"_s)
+                                  .replace(u"%1"_s, QString::number(m_folder.pages()))
+                                  .replace(u"%2"_s, QString::number(m_folder.pictures()))
+                                  .replace(u"%3"_s, QDir::toNativeSeparators(m_folder.path())));
     }
     session().desktop->open(m_folder.path() + u"/index.htm"_s);
     m_ui->cmdFtp->setEnabled(true);
