@@ -55,9 +55,9 @@ struct Cause {
     QString french;
 };
 
-const std::array<Cause, 13> &causes()
+const std::array<Cause, 15> &causes()
 {
-    static const std::array<Cause, 13> table = {{
+    static const std::array<Cause, 15> table = {{
         {u"c1"_s, u"No such file or directory"_s, u"fichier introuvable"_s},
         {u"c2"_s, u"Permission denied"_s, u"accès refusé"_s},
         {u"c3"_s, u"No space left on device"_s, u"plus de place sur le disque"_s},
@@ -70,6 +70,8 @@ const std::array<Cause, 13> &causes()
         {u"c11"_s, u"Not a directory"_s, u"un fichier porte le nom d’un dossier"_s},
         {u"c12"_s, u"File exists"_s, u"ce nom existe déjà"_s},
         {u"c13"_s, u"texts missing in [CATALOG]"_s, u"textes absents de [CATALOG]"_s},
+        {u"c4"_s, u"file to open is a directory"_s, u"c’est un dossier"_s},
+        {u"c4"_s, u"Filename refers to a directory"_s, u"c’est un dossier"_s},
         {u"c9"_s, u"not in the form of a settings file"_s, u"n’a pas la forme d’un fichier de réglages"_s},
     }};
     return table;

@@ -136,15 +136,20 @@ ShopSettings AfficherParam(const Session &session, RunReport &report)
     return settings;
 }
 
-Result SaveParam(const ShopSettings &settings, Session &session)
+Result SaveParam(const ShopSettings &settings, Session &session, RunReport *report)
 {
     Result first;
-    const auto note = [&first](const Result &result) {
-        if (first && !result)
-            first = result;
+    const auto note = [&first, report](Incident::Kind kind, const QString &piece, const Result &result) {
+        if (result)
+            return;
+        if (first)
+            first = {result.number(), piece + u": "_s + result.text()};
+        if (report)
+            report->add(kind, piece, result.text());
     };
     const auto save = [&](const QString &key, const QString &value) {
-        note(session.settings.save(SettingsKey::application, SettingsKey::section, key, value));
+        note(Incident::SettingsFile, SettingsKey::application + u".ini"_s,
+             session.settings.save(SettingsKey::application, SettingsKey::section, key, value));
     };
     for (const TextKey &entry : textKeys())
         save(entry.key, settings.*entry.text);
@@ -162,7 +167,7 @@ Result SaveParam(const ShopSettings &settings, Session &session)
         QSaveFile file(session.applicationFolder + u'/' + entry.key);
         if (!file.open(QIODevice::WriteOnly) || file.write(CodePage::encode(settings.*entry.text)) < 0
             || !file.commit())
-            note({1, entry.key + u": "_s + file.errorString()});
+            note(Incident::FileNotWritten, entry.key, {1, file.errorString()});
     }
     return first;
 }

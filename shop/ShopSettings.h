@@ -58,5 +58,5 @@ inline const QString returnPage = QStringLiteral("https://www.zelvantor.example/
 ShopSettings AfficherParam(const Session &session, RunReport &report);
 
 /// Stores all settings and rewrites the six text files, each whole or not at all. All are tried; the result is
-/// the first failure. Shipping rows are packed; only the first six come back.
-Result SaveParam(const ShopSettings &settings, Session &session);
+/// the first failure, and `report`, when given, names each. Shipping rows are packed; only the first six come back.
+Result SaveParam(const ShopSettings &settings, Session &session, RunReport *report = nullptr);

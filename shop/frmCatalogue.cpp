@@ -302,8 +302,7 @@ void frmCatalogue::generate()
         m_folder.yield = [] { QApplication::processEvents(QEventLoop::ExcludeUserInputEvents); };
         const ShopData shop = takeData();
         genererBoutique(shop, takeSelection(), session(), m_folder, m_report);
-        if (const Result saved = SaveParam(shop.settings, session()); !saved)
-            m_report.add(Incident::SettingsFile, SettingsKey::application, saved.text());
+        (void)SaveParam(shop.settings, session(), &m_report);
         setRunning(false);
         check();
         Localisation windows = session().localisation;

@@ -62,6 +62,61 @@ void saveCatalogue(Session &session, const QString &folder)
     }
 }
 
+/// The windows of the start, in their order.
+void saveStart(Session &session, const QString &folder)
+{
+    {
+        frmPays window(session, nullptr);
+        save(window, folder, u"frmPays"_s);
+    }
+    {
+        frmDbPath window(session, nullptr);
+        save(window, folder, u"frmDbPath"_s);
+        session.gsDbPath = ApplicationFolder::sample(session.applicationFolder) + u"/zelvantor.mdb"_s;
+    }
+    {
+        frmLogin window(session, nullptr);
+        save(window, folder, u"frmLogin"_s);
+    }
+    {
+        frmSplash window;
+        save(window, folder, u"frmSplash"_s);
+    }
+}
+
+void saveWindows(Session &session, const QString &folder)
+{
+    {
+        frmMain window(session);
+        window.resize(1000, 640);
+        save(window, folder, u"frmMain"_s);
+    }
+    {
+        frmPW window(session, nullptr);
+        save(window, folder, u"frmPW"_s);
+    }
+    {
+        frmAbout window(session, nullptr);
+        save(window, folder, u"frmAbout"_s);
+    }
+    {
+        frmInfo window(session, nullptr);
+        save(window, folder, u"frmInfo"_s);
+    }
+    {
+        frmTrad window(session, u"CATALOG"_s, u"Catalogue"_s, nullptr);
+        save(window, folder, u"frmTrad"_s);
+    }
+    {
+        (void)session.saveSetting(u"PATHPHOTO"_s,
+                                  ApplicationFolder::sample(session.applicationFolder) + u"/pictures"_s);
+        frmDlgOpenDoc window(session, nullptr);
+        window.findChild<QComboBox *>(u"cbType"_s)->setCurrentIndex(6);
+        window.findChild<QListWidget *>(u"File1"_s)->setCurrentRow(0);
+        save(window, folder, u"frmDlgOpenDoc"_s);
+    }
+}
+
 } // namespace
 
 int main(int argc, char *argv[])
@@ -100,52 +155,8 @@ int main(int argc, char *argv[])
     if (const Result opened = session.gCnn.open(connectionText(session.gsDbPath)); !opened)
         quiet.box(opened.text(), session.gsDbPath);
 
-    {
-        frmPays window(session, nullptr);
-        save(window, folder, u"frmPays"_s);
-    }
-    {
-        frmDbPath window(session, nullptr);
-        save(window, folder, u"frmDbPath"_s);
-        session.gsDbPath = ApplicationFolder::sample(session.applicationFolder) + u"/zelvantor.mdb"_s;
-    }
-    {
-        frmLogin window(session, nullptr);
-        save(window, folder, u"frmLogin"_s);
-    }
-    {
-        frmSplash window;
-        save(window, folder, u"frmSplash"_s);
-    }
-    {
-        frmMain window(session);
-        window.resize(1000, 640);
-        save(window, folder, u"frmMain"_s);
-    }
-    {
-        frmPW window(session, nullptr);
-        save(window, folder, u"frmPW"_s);
-    }
-    {
-        frmAbout window(session, nullptr);
-        save(window, folder, u"frmAbout"_s);
-    }
-    {
-        frmInfo window(session, nullptr);
-        save(window, folder, u"frmInfo"_s);
-    }
-    {
-        frmTrad window(session, u"CATALOG"_s, u"Catalogue"_s, nullptr);
-        save(window, folder, u"frmTrad"_s);
-    }
-    {
-        (void)session.saveSetting(u"PATHPHOTO"_s,
-                                  ApplicationFolder::sample(session.applicationFolder) + u"/pictures"_s);
-        frmDlgOpenDoc window(session, nullptr);
-        window.findChild<QComboBox *>(u"cbType"_s)->setCurrentIndex(6);
-        window.findChild<QListWidget *>(u"File1"_s)->setCurrentRow(0);
-        save(window, folder, u"frmDlgOpenDoc"_s);
-    }
+    saveStart(session, folder);
+    saveWindows(session, folder);
     saveCatalogue(session, folder);
     return 0;
 }
