@@ -15,10 +15,7 @@ namespace {
 // Only shape and room; every colour comes from the palette, so that light and dark desktops both keep theirs.
 const QString sheet = u"QToolButton { padding: 6px 4px; }"
                       "QPushButton { padding: 5px 14px; min-width: 72px; }"
-                      "QLineEdit, QComboBox { padding: 3px 5px; }"
-                      "QGroupBox { font-weight: bold; margin-top: 12px; padding-top: 8px; }"
-                      "QGroupBox::title { subcontrol-origin: margin; left: 8px; }"
-                      "QGroupBox QWidget { font-weight: normal; }"_s;
+                      "QLineEdit, QComboBox { padding: 3px 5px; }"_s;
 
 constexpr int sizes[] = {16, 24, 32, 48, 64, 72, 96, 128, 144};
 

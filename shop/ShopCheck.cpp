@@ -98,6 +98,8 @@ private:
         for (const auto &[control, text] : fields)
             if (!text.trimmed().isEmpty() && !isNumber(text))
                 add(Finding::NotANumber, text, control);
+        if (isNumber(s.txtTaxe) && holdsAny(s.txtlbTaxe, u"'\"\\"))
+            add(Finding::QuoteInSetting, s.txtlbTaxe, u"txtlbTaxe"_s);
         if (s.chGratuit)
             return;
         for (const ShippingMethod &method : s.fpSpread12) {
@@ -171,9 +173,12 @@ private:
                     m_pages.insert(u"g%1_s%2"_s.arg(*group.idCategorie).arg(*family),
                                    u"g%1_s%2.htm"_s.arg(*group.idCategorie).arg(*family));
         const QString code = m_data.language.sLangueHtm;
-        Reader row = m_session.gCnn.read(u"SELECT idProduit, idFamille, sRef, sNom"_s + code
-                                         + u", sPrixVenteTTC, sObservation"_s + code + u" FROM T_PRODUIT"_s);
+        Reader row =
+            m_session.gCnn.read(u"SELECT idProduit, idFamille, sRef, sNom"_s + code + u", sPrixVenteTTC, sObservation"_s
+                                + code + u", idCategorie FROM T_PRODUIT"_s);
         while (row.next()) {
+            if (row.isNull(1) || row.isNull(6))
+                add(Finding::NoGroup, row.text(2));
             if (!families.contains(row.integer(1)))
                 continue;
             const QString reference = row.text(2);
@@ -283,6 +288,8 @@ QString frenchLine(Finding::Kind kind)
         return u"« %1 » contient une apostrophe, un guillemet droit ou une barre inverse, qui couperait le panier ou la commande."_s;
     case Finding::BadReference:
         return u"La référence « %1 » ne peut pas donner un nom de page."_s;
+    case Finding::NoGroup:
+        return u"L’article %1 n’a pas de groupe ou de sous-groupe : il n’a pas de page dans la boutique."_s;
     case Finding::CatalogueNotRead:
         return u"Le catalogue n’a pas pu être lu : %1"_s;
     }

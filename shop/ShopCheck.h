@@ -28,6 +28,7 @@ struct Finding {
         NotANumber,
         QuoteInSetting,
         BadReference,
+        NoGroup,
     };
     Kind kind;
     QString subject; ///< the product, the name or the field it is about

@@ -214,6 +214,8 @@ void CatalogueTest::findingsLeadToTheirField()
     desk.sql(u"UPDATE T_PRODUIT SET sPrixVenteTTC = NULL, sNomFR = ' ' WHERE idProduit = 3"_s);
     desk.sql(u"UPDATE T_PRODUIT SET sFamille = 'L''atelier' WHERE idFamille = 12"_s);
     desk.sql(u"UPDATE T_PRODUIT SET sNomFR = 'Bol Ω', sRef = 'a@b' WHERE idProduit = 20"_s);
+    desk.sql(u"UPDATE T_PRODUIT SET idFamille = NULL WHERE idProduit = 30"_s);
+    desk.sql(u"UPDATE T_PRODUIT SET sPrixVenteTTC = '12,50', sObservationFR = 'Le \"grand\"' WHERE idProduit = 31"_s);
     desk.sql(u"UPDATE REF_INFO SET sValeur = '' WHERE idInfo = 9"_s);
     (void)AfficherInfo(desk.session);
     frmCatalogue window(desk.session, nullptr);
@@ -226,7 +228,8 @@ void CatalogueTest::findingsLeadToTheirField()
           u"00001/202501, 00001202501"_s, u"Pot \"noir\" | grand » contient un guillemet"_s,
           u"Pot \"noir\" | grand » contient le signe"_s, u"L’article 00003/202501 n’a pas de nom"_s,
           u"L’article 00003/202501 n’a pas de prix"_s, u"« a@b »"_s, u"a@b / Bol Ω » contient des caractères"_s,
-          u"La ligne 9 (Email) des données"_s, u"encore celui d’origine"_s})
+          u"La ligne 9 (Email) des données"_s, u"encore celui d’origine"_s, u"n’a pas de groupe"_s,
+          u": 12,50 » n’est pas un nombre"_s, u"dans son texte"_s})
         QVERIFY2(!lines.filter(expected).isEmpty(), qPrintable(expected + u" manque dans\n"_s + lines.join(u'\n')));
     auto &list = control<QListWidget>(window, "lstControle");
     window.show();
