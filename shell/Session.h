@@ -36,6 +36,20 @@ struct Session {
     Connection gCnnCopy;  ///< its sister for the copy, which nothing asks for
     bool gbPremierLancement = false;
     bool gbValider = false; ///< how the last modal dialogue ended
+
+    // What the product list and the screens that it opens tell one another.
+    int giModeProduit = 1; ///< 1 new, 2 modify, 3 consult
+    int glIdProduit = 0;   ///< the product at hand
+    int glIdFamille = 0;   ///< keys of the chosen sub-group, group, supplier and VAT rates
+    int glIdCategorie = 0;
+    int glIdFournisseur = 0;
+    int glIdTvaA = 0;
+    int glIdTvaV = 0;
+    bool gbRafraichirListe = false; ///< the list searches again when the dialogue ends
+    bool gbPhotos = false;          ///< the next action on attachments is about pictures, else about documents
+    int giSmall = 0;                ///< 0 full pictures, 1 small ones
+    bool gbChoixFichier = false;    ///< the file dialogue picks one file for another screen
+
     /// The values of REF_INFO in the order of their rows; position 1 is the first.
     QStringList gInfo;
 
