@@ -1,192 +1,35 @@
 #include "platform/Spread.h"
 
-#include <QComboBox>
+#include "platform/SpreadDelegate.h"
+
+#include <QApplication>
+#include <QFileInfo>
 #include <QHeaderView>
-#include <QStyledItemDelegate>
+#include <QKeyEvent>
+#include <QSaveFile>
 
 using namespace Qt::StringLiterals;
 
 namespace {
 
-/// Combo cells offer their list and still take any text.
-class SpreadDelegate : public QStyledItemDelegate {
-public:
-    using QStyledItemDelegate::QStyledItemDelegate;
+bool movesRow(int key)
+{
+    return key == Qt::Key_Up || key == Qt::Key_Down || key == Qt::Key_PageUp || key == Qt::Key_PageDown
+           || key == Qt::Key_Home || key == Qt::Key_End;
+}
 
-    QWidget *createEditor(QWidget *parent, const QStyleOptionViewItem &option, const QModelIndex &index) const override
-    {
-        const auto *cells = qobject_cast<const SpreadModel *>(index.model());
-        if (!cells || cells->cellType(index.column() + 1, index.row() + 1) != SpreadModel::CellType::Combo)
-            return QStyledItemDelegate::createEditor(parent, option, index);
-        auto *combo = new QComboBox(parent);
-        combo->setEditable(true);
-        combo->addItems(cells->choices(index.column() + 1, index.row() + 1));
-        return combo;
-    }
-    void setEditorData(QWidget *editor, const QModelIndex &index) const override
-    {
-        if (auto *combo = qobject_cast<QComboBox *>(editor))
-            combo->setEditText(index.data(Qt::EditRole).toString());
-        else
-            QStyledItemDelegate::setEditorData(editor, index);
-    }
-    void setModelData(QWidget *editor, QAbstractItemModel *model, const QModelIndex &index) const override
-    {
-        if (auto *combo = qobject_cast<QComboBox *>(editor))
-            model->setData(index, combo->currentText(), Qt::EditRole);
-        else
-            QStyledItemDelegate::setModelData(editor, model, index);
-    }
-};
+Result writeWhole(const QString &path, const QByteArray &bytes)
+{
+    QSaveFile file(path);
+    if (!file.open(QIODevice::WriteOnly))
+        return {1, file.errorString()};
+    // The commit alone passes over a disk that fills while the last bytes are written.
+    if (file.write(bytes) != bytes.size() || !file.flush() || !file.commit())
+        return {1, file.errorString()};
+    return {};
+}
 
 } // namespace
-
-int SpreadModel::rowCount(const QModelIndex &parent) const
-{
-    return parent.isValid() ? 0 : m_rows;
-}
-
-int SpreadModel::columnCount(const QModelIndex &parent) const
-{
-    return parent.isValid() ? 0 : m_columns;
-}
-
-QVariant SpreadModel::data(const QModelIndex &index, int role) const
-{
-    const int column = index.column() + 1;
-    const int row = index.row() + 1;
-    const CellType type = cellType(column, row);
-    switch (role) {
-    case Qt::DisplayRole:
-    case Qt::EditRole:
-        return type == CellType::Check || type == CellType::Picture ? QVariant() : text(column, row);
-    case Qt::CheckStateRole:
-        if (type == CellType::Check)
-            return text(column, row) == u"1"_s ? Qt::Checked : Qt::Unchecked;
-        return {};
-    case Qt::DecorationRole:
-        return m_pictures.contains(at(column, row)) ? QVariant(m_pictures[at(column, row)]) : QVariant();
-    case Qt::ToolTipRole:
-    case Qt::AccessibleTextRole:
-        return text(column, row);
-    default:
-        return {};
-    }
-}
-
-bool SpreadModel::setData(const QModelIndex &index, const QVariant &value, int role)
-{
-    if (role == Qt::CheckStateRole)
-        setText(index.column() + 1, index.row() + 1, value.toInt() == Qt::Checked ? u"1"_s : u"0"_s);
-    else if (role == Qt::EditRole)
-        setText(index.column() + 1, index.row() + 1, value.toString());
-    else
-        return false;
-    return true;
-}
-
-QVariant SpreadModel::headerData(int section, Qt::Orientation orientation, int role) const
-{
-    if (role != Qt::DisplayRole)
-        return {};
-    return orientation == Qt::Horizontal ? QVariant(m_headings.value(section)) : QVariant(section + 1);
-}
-
-Qt::ItemFlags SpreadModel::flags(const QModelIndex &index) const
-{
-    const Qt::ItemFlags base = Qt::ItemIsEnabled | Qt::ItemIsSelectable;
-    switch (cellType(index.column() + 1, index.row() + 1)) {
-    case CellType::Check:
-        return base | Qt::ItemIsUserCheckable;
-    case CellType::Text:
-    case CellType::Combo:
-        return base | Qt::ItemIsEditable;
-    default:
-        return base;
-    }
-}
-
-void SpreadModel::resize(int rows, int columns)
-{
-    beginResetModel();
-    if (columns != m_columns) {
-        m_texts.clear();
-        m_columnTypes.clear();
-    }
-    m_rows = rows;
-    m_columns = columns;
-    m_texts.resize(size_t(rows) * size_t(columns));
-    m_headings.resize(columns);
-    if (rows == 0) {
-        m_cellTypes.clear();
-        m_pictures.clear();
-        m_choices.clear();
-    }
-    endResetModel();
-}
-
-bool SpreadModel::isInside(int column, int row) const
-{
-    return column >= 1 && column <= m_columns && row >= 1 && row <= m_rows;
-}
-
-QString SpreadModel::text(int column, int row) const
-{
-    if (row == 0)
-        return m_headings.value(column - 1);
-    return isInside(column, row) ? m_texts[size_t(at(column, row))] : QString();
-}
-
-void SpreadModel::setText(int column, int row, const QString &text)
-{
-    if (row == 0 && column >= 1 && column <= m_columns) {
-        m_headings[column - 1] = text;
-        Q_EMIT headerDataChanged(Qt::Horizontal, column - 1, column - 1);
-    } else if (isInside(column, row) && m_texts[size_t(at(column, row))] != text) {
-        m_texts[size_t(at(column, row))] = text;
-        announce(column, row);
-        Q_EMIT cellChanged(column, row);
-    }
-}
-
-SpreadModel::CellType SpreadModel::cellType(int column, int row) const
-{
-    return m_cellTypes.value(at(column, row), m_columnTypes.value(column, CellType::Text));
-}
-
-void SpreadModel::setCellType(int column, int row, CellType type)
-{
-    m_cellTypes.insert(at(column, row), type);
-    announce(column, row);
-}
-
-void SpreadModel::setColumnType(int column, CellType type)
-{
-    m_columnTypes.insert(column, type);
-}
-
-void SpreadModel::setPicture(int column, int row, const QIcon &picture)
-{
-    m_pictures.insert(at(column, row), picture);
-    setCellType(column, row, CellType::Picture);
-}
-
-void SpreadModel::setChoices(int column, int row, const QStringList &choices)
-{
-    m_choices.insert(at(column, row), choices);
-    setCellType(column, row, CellType::Combo);
-}
-
-QStringList SpreadModel::choices(int column, int row) const
-{
-    return m_choices.value(at(column, row));
-}
-
-void SpreadModel::announce(int column, int row)
-{
-    const QModelIndex cell = index(row - 1, column - 1);
-    Q_EMIT dataChanged(cell, cell);
-}
 
 Spread::Spread(QWidget *parent) : QTableView(parent), m_cells(new SpreadModel(this))
 {
@@ -202,10 +45,56 @@ Spread::Spread(QWidget *parent) : QTableView(parent), m_cells(new SpreadModel(th
             [this](const QModelIndex &index) { Q_EMIT cellClicked(index.column() + 1, index.row() + 1); });
 }
 
+void Spread::setOperationMode(OperationMode mode)
+{
+    const bool single = mode == OperationMode::SingleSelect;
+    m_mode = mode;
+    setSelectionBehavior(single ? SelectRows : SelectItems);
+    setEditTriggers(single ? EditTriggers(NoEditTriggers) : DoubleClicked | EditKeyPressed | AnyKeyPressed);
+    horizontalHeader()->setSectionsClickable(!single);
+    horizontalHeader()->setHighlightSections(!single);
+    setWordWrap(!single);
+    // Every width is the user's own there.
+    horizontalHeader()->setStretchLastSection(!single);
+}
+
+void Spread::setBandColors(const QColor &foreground, const QColor &background)
+{
+    setAlternatingRowColors(false);
+    m_cells->setBandColors(foreground, background);
+    viewport()->update();
+}
+
 void Spread::hideColumns(int first, int last)
 {
-    for (int column = first; column <= last; ++column)
+    for (int column = first; column <= last; ++column) {
+        if (!isColumnHidden(column - 1))
+            m_hiddenWidths[column] = columnWidth(column - 1);
         setColumnHidden(column - 1, true);
+    }
+}
+
+QList<int> Spread::columnWidths() const
+{
+    QList<int> widths;
+    for (int column = 1; column <= MaxCols(); ++column)
+        widths << (isColumnHidden(column - 1) ? m_hiddenWidths.value(column, horizontalHeader()->defaultSectionSize())
+                                              : columnWidth(column - 1));
+    return widths;
+}
+
+void Spread::setColumnWidths(const QList<int> &widths)
+{
+    setUpdatesEnabled(false);
+    for (int column = 1; column <= std::min(MaxCols(), int(widths.size())); ++column) {
+        const int width = widths[column - 1];
+        if (width < 0)
+            continue;
+        setColumnWidth(column - 1, width);
+        if (isColumnHidden(column - 1))
+            m_hiddenWidths[column] = width;
+    }
+    setUpdatesEnabled(true);
 }
 
 void Spread::setActiveCell(int column, int row)
@@ -220,4 +109,124 @@ int Spread::DataRowCnt() const
             if (!m_cells->text(column, row).isEmpty())
                 return row;
     return 0;
+}
+
+void Spread::finishEditing()
+{
+    if (QWidget *editor = state() == EditingState ? indexWidget(currentIndex()) : nullptr) {
+        commitData(editor);
+        closeEditor(editor, QAbstractItemDelegate::NoHint);
+    }
+    if (m_edited)
+        leave(currentIndex());
+}
+
+QList<int> Spread::visibleColumns() const
+{
+    QList<int> columns;
+    for (int column = 1; column <= MaxCols(); ++column)
+        if (!isColumnHidden(column - 1))
+            columns << column;
+    return columns;
+}
+
+CellTable Spread::visibleCells() const
+{
+    const QList<int> columns = visibleColumns();
+    CellTable table;
+    for (const int column : columns) {
+        table.headings << text(column, 0);
+        table.numeric << (m_cells->columnType(column) == SpreadModel::CellType::Number);
+    }
+    table.rows = MaxRows();
+    table.text = [this, columns](int column, int row) { return m_cells->text(columns[column], row + 1); };
+    return table;
+}
+
+Result Spread::saveTabText(const QString &path) const
+{
+    return writeWhole(path, visibleCells().toTabText());
+}
+
+Result Spread::exportHtml(const QString &path) const
+{
+    return writeWhole(path, visibleCells().toHtml(QFileInfo(path).completeBaseName()));
+}
+
+void Spread::keyPressEvent(QKeyEvent *event)
+{
+    // The focus alone makes a cell of the first row the current one without choosing the row, and the keys would
+    // go on from there to the second.
+    if (m_mode == OperationMode::SingleSelect && movesRow(event->key()) && MaxRows() > 0
+        && !selectionModel()->hasSelection())
+        selectRow(event->key() == Qt::Key_End ? MaxRows() - 1 : std::max(0, currentIndex().row()));
+    else
+        QTableView::keyPressEvent(event);
+}
+
+void Spread::focusOutEvent(QFocusEvent *event)
+{
+    QTableView::focusOutEvent(event);
+    leaveIfFocusIsGone();
+}
+
+QModelIndex Spread::moveCursor(CursorAction action, Qt::KeyboardModifiers modifiers)
+{
+    const int column = std::max(0, currentIndex().column());
+    if (m_mode == OperationMode::SingleSelect && action == MoveHome)
+        return m_cells->index(0, column);
+    if (m_mode == OperationMode::SingleSelect && action == MoveEnd)
+        return m_cells->index(MaxRows() - 1, column);
+    return QTableView::moveCursor(action, modifiers);
+}
+
+QItemSelectionModel::SelectionFlags Spread::selectionCommand(const QModelIndex &index, const QEvent *event) const
+{
+    if (m_mode != OperationMode::SingleSelect)
+        return QTableView::selectionCommand(index, event);
+    // A click with Ctrl would take the choice away.
+    return index.isValid() ? QItemSelectionModel::ClearAndSelect | QItemSelectionModel::Rows
+                           : QItemSelectionModel::SelectionFlags(QItemSelectionModel::NoUpdate);
+}
+
+void Spread::selectionChanged(const QItemSelection &selected, const QItemSelection &deselected)
+{
+    QTableView::selectionChanged(selected, deselected);
+    if (m_mode == OperationMode::SingleSelect && !selected.isEmpty())
+        Q_EMIT rowSelected(selected.first().top() + 1);
+}
+
+void Spread::currentChanged(const QModelIndex &current, const QModelIndex &previous)
+{
+    QTableView::currentChanged(current, previous);
+    if (previous.isValid())
+        leave(previous);
+}
+
+void Spread::commitData(QWidget *editor)
+{
+    QTableView::commitData(editor);
+    m_edited = true;
+}
+
+void Spread::closeEditor(QWidget *editor, QAbstractItemDelegate::EndEditHint hint)
+{
+    QTableView::closeEditor(editor, hint);
+    leaveIfFocusIsGone();
+}
+
+void Spread::leave(const QModelIndex &cell)
+{
+    m_edited = false;
+    Q_EMIT cellLeft(cell.column() + 1, cell.row() + 1);
+}
+
+void Spread::leaveIfFocusIsGone()
+{
+    if (!m_edited || !currentIndex().isValid())
+        return;
+    for (const QWidget *focus = QApplication::focusWidget(); focus; focus = focus->parentWidget())
+        if (focus == this)
+            return; // its editor, or the list that the editor opened
+    leave(currentIndex());
 }
