@@ -22,10 +22,12 @@ int main(int argc, char *argv[])
     const Clock clock;
     MessageBoxes messages;
     DesktopServices desktop;
+    FileDialogs files;
     Session session(settings, clock, ApplicationFolder::user());
     DeskScreens screens(session);
     session.messages = &messages;
     session.desktop = &desktop;
+    session.files = &files;
     session.screens = &screens;
     if (const Result filled = ApplicationFolder::fill(ApplicationFolder::delivered(), session.applicationFolder);
         !filled)

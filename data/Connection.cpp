@@ -40,6 +40,15 @@ Result Connection::execute(const QString &statement)
     return m_store ? m_store->execute(statement) : notOpen();
 }
 
+std::vector<Result> Connection::executeAll(const QStringList &statements)
+{
+    std::vector<Result> failures;
+    for (const QString &statement : statements)
+        if (Result done = execute(statement); !done)
+            failures.push_back(std::move(done));
+    return failures;
+}
+
 Reader Connection::read(const QString &statement, const std::vector<qint64> &values)
 {
     return m_store ? m_store->read(statement, values) : Reader::failed(notOpen());

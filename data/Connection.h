@@ -1,6 +1,7 @@
 #pragma once
 #include "platform/Store.h"
 
+#include <QStringList>
 #include <memory>
 
 /// An open, or never opened, connection to the store. Copies share the same store.
@@ -16,6 +17,8 @@ public:
 
     /// Run a statement on the store; on a connection that is not open every one fails.
     Result execute(const QString &statement);
+    /// Runs statements one after the other; one that fails leaves the others running. Gives the failures.
+    std::vector<Result> executeAll(const QStringList &statements);
     Reader read(const QString &statement, const std::vector<qint64> &values = {});
 
 private:

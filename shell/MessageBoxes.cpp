@@ -2,9 +2,13 @@
 
 #include <QApplication>
 #include <QDesktopServices>
+#include <QFileDialog>
+#include <QFileInfo>
 #include <QLoggingCategory>
 #include <QMessageBox>
 #include <QUrl>
+
+using namespace Qt::StringLiterals;
 
 Q_LOGGING_CATEGORY(logShell, "zelvantor.shell", QtWarningMsg)
 
@@ -28,6 +32,15 @@ void MessageBoxes::alert(const QString &text)
 {
     qCInfo(logShell).noquote() << text;
     QApplication::beep();
+}
+
+QString FileDialogs::saveFile(QWidget *parent, const QString &title, const QStringList &filters)
+{
+    QString chosen;
+    QString path = QFileDialog::getSaveFileName(parent, title, QString(), filters.join(u";;"_s), &chosen);
+    if (!path.isEmpty() && QFileInfo(path).suffix().isEmpty())
+        path += chosen.mid(chosen.indexOf(u"*."_s) + 1).chopped(1);
+    return path;
 }
 
 bool DesktopServices::open(const QString &fileOrAddress)

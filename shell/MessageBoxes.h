@@ -1,5 +1,6 @@
 #pragma once
 #include "platform/Desktop.h"
+#include "platform/FileChooser.h"
 #include "platform/Messages.h"
 
 /// Messages as windows.
@@ -8,6 +9,12 @@ public:
     void box(const QString &text, const QString &title) override;
     bool question(const QString &text, const QString &title) override;
     void alert(const QString &text) override;
+};
+
+/// The desktop's own dialogue for files.
+class FileDialogs : public FileChooser {
+public:
+    QString saveFile(QWidget *parent, const QString &title, const QStringList &filters) override;
 };
 
 /// The desktop's own way of opening things.

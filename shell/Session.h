@@ -7,6 +7,7 @@
 #include <QStringList>
 
 class Desktop;
+class FileChooser;
 class Messages;
 class Screens;
 
@@ -23,6 +24,7 @@ struct Session {
     // Set before the first window opens; a run without windows has none of them.
     Messages *messages = nullptr;
     Desktop *desktop = nullptr;
+    FileChooser *files = nullptr;
     Screens *screens = nullptr;
 
     QString gsPays;

@@ -45,6 +45,7 @@ Desk::Desk()
 {
     session.messages = &messages;
     session.desktop = &desktop;
+    session.files = &files;
     session.screens = &screens;
     const Result filled = ApplicationFolder::fill(QStringLiteral(ZELVANTOR_SHARE), session.applicationFolder);
     if (!filled)

@@ -1,6 +1,7 @@
 #pragma once
 #include "app/DeskScreens.h"
 #include "platform/Desktop.h"
+#include "platform/FileChooser.h"
 #include "shell/ApplicationFolder.h"
 #include "tests/support/RecordingMessages.h"
 
@@ -17,6 +18,17 @@ struct RecordingDesktop : Desktop {
         return true;
     }
     QStringList opened;
+};
+
+/// Gives `path` for every question where to save.
+struct FixedFile : FileChooser {
+    QString saveFile(QWidget *, const QString &, const QStringList &) override
+    {
+        ++asked;
+        return path;
+    }
+    QString path;
+    int asked = 0;
 };
 
 /// Acts on modal windows as a person would: the first action belongs to the first window of its name that shows,
@@ -60,6 +72,7 @@ public:
     Clock clock;
     RecordingMessages messages;
     RecordingDesktop desktop;
+    FixedFile files;
     Session session;
     DeskScreens screens;
 };

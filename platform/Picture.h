@@ -1,0 +1,12 @@
+#pragma once
+#include <QPixmap>
+#include <QString>
+
+/// Pictures as previews.
+namespace Picture {
+
+/// The picture of a file, no larger than `size` and never stretched, turned as its camera says; a null pixmap for
+/// a file that is no picture. Large files are read at the wanted size where their format allows it.
+QPixmap fitted(const QString &path, const QSize &size);
+
+} // namespace Picture
