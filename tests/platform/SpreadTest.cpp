@@ -179,6 +179,8 @@ void SpreadTest::keysChooseRowsAsClicks()
 {
     Window window;
     window.grid.setOperationMode(Spread::OperationMode::SingleSelect);
+    const QColor band(204, 253, 245);
+    window.grid.setBandColors(Qt::black, band);
     window.open(100, 3);
     window.grid.hideColumns(1, 1);
     QSignalSpy rows(&window.grid, &Spread::rowSelected);
@@ -198,6 +200,9 @@ void SpreadTest::keysChooseRowsAsClicks()
     QCOMPARE(numbers(rows), QList<int>{4});
     QCOMPARE(cells(clicks), (Cells{{2, 4}, {3, 4}}));
     QCOMPARE(window.grid.selectionModel()->selectedRows().size(), 1);
+    const QImage shot = window.grid.viewport()->grab().toImage();
+    for (const auto &[row, isBand] : {std::pair(1, false), {2, true}, {3, false}, {4, false}}) // 4 is the chosen one
+        QCOMPARE(shot.pixelColor(5, window.grid.rowViewportPosition(row - 1) + 5) == band, isBand);
     QHeaderView *header = window.grid.horizontalHeader();
     QTest::mouseClick(header->viewport(), Qt::LeftButton, {}, {header->sectionViewportPosition(2) + 20, 5});
     QTest::mouseDClick(window.grid.viewport(), Qt::LeftButton, {},
