@@ -1,11 +1,29 @@
 #include "app/DeskScreens.h"
 
 #include "catalogue/frmDlgOpenDoc.h"
+#include "catalogue/frmListProduct.h"
 #include "reference/frmTrad.h"
 #include "shop/frmCatalogue.h"
 #include "shop/frmInfo.h"
 
 #include <QFileInfo>
+#include <QMdiArea>
+#include <QMdiSubWindow>
+#include <QScreen>
+
+namespace {
+
+/// The frame opens smaller than the list needs; it grows as far as the screen allows, and never shrinks.
+void makeRoom(QWidget &window, const QSize &wanted)
+{
+    const QRect room = window.screen()->availableGeometry();
+    window.resize(window.size().expandedTo(wanted).boundedTo(room.size()));
+    const QPoint corner(std::min(window.x(), room.right() + 1 - window.frameGeometry().width()),
+                        std::min(window.y(), room.bottom() + 1 - window.frameGeometry().height()));
+    window.move(std::max(corner.x(), room.left()), std::max(corner.y(), room.top()));
+}
+
+} // namespace
 
 void DeskScreens::showCatalogue(QWidget *parent)
 {
@@ -17,9 +35,18 @@ void DeskScreens::showInfo(QWidget *parent)
     frmInfo(m_session, parent).exec();
 }
 
-bool DeskScreens::showProducts(QWidget *)
+void DeskScreens::showProducts(QMdiArea *frame)
 {
-    return false;
+    if (!m_products) {
+        auto *list = new frmListProduct(m_session, frame);
+        list->setAttribute(Qt::WA_DeleteOnClose);
+        m_products = list;
+        frame->addSubWindow(list);
+        makeRoom(*frame->window(), list->size() + frame->window()->size() - frame->size());
+        list->showMaximized();
+    }
+    frame->setActiveSubWindow(qobject_cast<QMdiSubWindow *>(m_products->parentWidget()));
+    m_products->setFocus();
 }
 
 bool DeskScreens::showTree(QWidget *, bool)
@@ -34,8 +61,13 @@ bool DeskScreens::showFtp(QWidget *)
 
 std::optional<PickedFile> DeskScreens::pickPicture(QWidget *parent)
 {
+    m_session.gbPhotos = true;
+    m_session.gbChoixFichier = true;
+    m_session.giSmall = 0;
     frmDlgOpenDoc dialog(m_session, parent);
-    if (dialog.exec() != QDialog::Accepted)
+    const int result = dialog.exec();
+    m_session.gbChoixFichier = false;
+    if (result != QDialog::Accepted)
         return {};
     return PickedFile{dialog.chosenPath(), QFileInfo(dialog.chosenPath()).fileName()};
 }

@@ -2,6 +2,9 @@
 #include "shell/Screens.h"
 #include "shell/Session.h"
 
+#include <QPointer>
+#include <QWidget>
+
 /// The one place where the rooms meet: opens every screen of the program.
 class DeskScreens : public Screens {
 public:
@@ -9,7 +12,7 @@ public:
 
     void showCatalogue(QWidget *parent) override;
     void showInfo(QWidget *parent) override;
-    bool showProducts(QWidget *parent) override;
+    void showProducts(QMdiArea *frame) override;
     bool showTree(QWidget *parent, bool bCategorie) override;
     bool showFtp(QWidget *parent) override;
     std::optional<PickedFile> pickPicture(QWidget *parent) override;
@@ -17,4 +20,5 @@ public:
 
 private:
     Session &m_session;
+    QPointer<QWidget> m_products; ///< gone when the list has been closed
 };

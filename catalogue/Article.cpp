@@ -49,8 +49,8 @@ const QStringList &Article::languages()
 
 QString Article::selectStatement(int idProduit)
 {
-    return u"SELECT T_PRODUIT."_s + columns().join(u", T_PRODUIT."_s) + u" FROM T_PRODUIT WHERE (idProduit = "_s +
-           QString::number(idProduit) + u");"_s;
+    return u"SELECT T_PRODUIT."_s + columns().join(u", T_PRODUIT."_s) + u" FROM T_PRODUIT WHERE (idProduit = "_s
+           + QString::number(idProduit) + u");"_s;
 }
 
 /// Keys, ticks and the quantity go plain; an emptied quantity is a null.
@@ -68,8 +68,8 @@ QString Article::insertStatement() const
     QStringList values;
     for (const QString &column : columns())
         values << value(column);
-    return u"INSERT INTO  T_PRODUIT ( "_s + columns().join(u", "_s) + u" ) VALUES ("_s + values.join(u", "_s) +
-           u");  "_s;
+    return u"INSERT INTO  T_PRODUIT ( "_s + columns().join(u", "_s) + u" ) VALUES ("_s + values.join(u", "_s)
+           + u");  "_s;
 }
 
 QString Article::updateStatement() const
@@ -77,6 +77,6 @@ QString Article::updateStatement() const
     QStringList changes;
     for (const QString &column : changedColumns())
         changes << column + u" = "_s + value(column);
-    return u"UPDATE T_PRODUIT SET "_s + changes.join(u", "_s) + u" WHERE idProduit = "_s + value(u"idProduit"_s) +
-           u";"_s;
+    return u"UPDATE T_PRODUIT SET "_s + changes.join(u", "_s) + u" WHERE idProduit = "_s + value(u"idProduit"_s)
+           + u";"_s;
 }

@@ -13,7 +13,7 @@ bool isDigits(const QString &text)
     return !text.isEmpty() && std::all_of(text.begin(), text.end(), [](QChar c) { return c >= u'0' && c <= u'9'; });
 }
 
-}
+} // namespace
 
 QString Ean13::CalculerCD(QString &code)
 {

@@ -15,4 +15,4 @@ QString fromReference(const QString &reference);
 /// Whether a text is thirteen digits with the right check digit.
 bool isValid(const QString &code);
 
-}
+} // namespace Ean13

@@ -13,8 +13,7 @@ ProductNumber::Taken ProductNumber::ChercherNumProduit(Connection &gCnn)
         Reader row = gCnn.read(u"SELECT Ref_Produit FROM PARAM; "_s);
         if (row.next()) {
             const qint64 next = row.isNull(0) ? 1 : row.integer(0) + 1;
-            const bool fits =
-                next <= std::numeric_limits<qint16>::max() && next >= std::numeric_limits<qint16>::min();
+            const bool fits = next <= std::numeric_limits<qint16>::max() && next >= std::numeric_limits<qint16>::min();
             if (!fits)
                 taken.failures.push_back({6, u"Dépassement de capacité"_s});
             taken.number = fits && next != 0 ? int(next) : 1;
@@ -23,7 +22,8 @@ ProductNumber::Taken ProductNumber::ChercherNumProduit(Connection &gCnn)
             taken.failures.push_back(row.result());
     }
     if (taken.number) {
-        const Result moved = gCnn.execute(u"UPDATE PARAM SET Ref_Produit = "_s + QString::number(*taken.number) + u";"_s);
+        const Result moved =
+            gCnn.execute(u"UPDATE PARAM SET Ref_Produit = "_s + QString::number(*taken.number) + u";"_s);
         if (!moved)
             taken.failures.push_back(moved);
     }
@@ -32,5 +32,7 @@ ProductNumber::Taken ProductNumber::ChercherNumProduit(Connection &gCnn)
 
 QString ProductNumber::reference(int number, const QDate &day)
 {
-    return u"%1/%2%3"_s.arg(number, 5, 10, QLatin1Char('0')).arg(day.year(), 4, 10, QLatin1Char('0')).arg(day.month(), 2, 10, QLatin1Char('0'));
+    return u"%1/%2%3"_s.arg(number, 5, 10, QLatin1Char('0'))
+        .arg(day.year(), 4, 10, QLatin1Char('0'))
+        .arg(day.month(), 2, 10, QLatin1Char('0'));
 }

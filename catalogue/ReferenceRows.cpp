@@ -16,8 +16,8 @@ struct Source {
 Source sourceOf(const QString &table, int glIdCategorie)
 {
     if (table == u"REF_FAMILLE"_s)
-        return {u"SELECT idRef_Categorie, sLibelle FROM REF_CATEGORIE_P WHERE idRef_Parent = "_s +
-                    QString::number(glIdCategorie),
+        return {u"SELECT idRef_Categorie, sLibelle FROM REF_CATEGORIE_P WHERE idRef_Parent = "_s
+                    + QString::number(glIdCategorie),
                 1};
     if (table == u"REF_CATEGORIE_P"_s)
         return {u"SELECT idRef_Categorie, sLibelle FROM REF_CATEGORIE_P WHERE idRef_parent = 1 ; "_s, 1};

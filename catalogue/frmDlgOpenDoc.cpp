@@ -1,14 +1,29 @@
 #include "catalogue/frmDlgOpenDoc.h"
 
+#include "catalogue/Attachments.h"
 #include "catalogue/FileTypes.h"
+#include "platform/Messages.h"
+#include "platform/Picture.h"
 #include "ui_frmDlgOpenDoc.h"
 
+#include <QApplication>
 #include <QDir>
 #include <QFileSystemModel>
-#include <QImageReader>
 #include <QStorageInfo>
 
 using namespace Qt::StringLiterals;
+
+namespace {
+
+QStringList textsOf(const QListWidget &list)
+{
+    QStringList texts;
+    for (int i = 0; i < list.count(); ++i)
+        texts << list.item(i)->text();
+    return texts;
+}
+
+} // namespace
 
 frmDlgOpenDoc::frmDlgOpenDoc(Session &screenSession, QWidget *parent)
     : Screen(screenSession, parent), m_ui(std::make_unique<Ui::frmDlgOpenDoc>()), m_folders(new QFileSystemModel(this))
@@ -22,21 +37,36 @@ frmDlgOpenDoc::frmDlgOpenDoc(Session &screenSession, QWidget *parent)
     for (const QStorageInfo &volume : QStorageInfo::mountedVolumes())
         if (volume.isReady())
             m_ui->Drive1->addItem(volume.rootPath());
-    m_ui->lbPixel->hide();
-    m_ui->cbType->addItems(FileTypes::pictures());
+    m_ui->lbPixel->setVisible(session().giSmall == 1);
+    m_ui->cbType->addItems(session().gbPhotos ? FileTypes::pictures() : FileTypes::documents());
     openRememberedFolder();
     wire();
     opened();
-    setWindowTitle(u"Pictures"_s);
+    setWindowTitle(session().gbPhotos ? u"Pictures"_s : u"Documents"_s);
     fillFiles();
+    if (!session().gbChoixFichier)
+        AfficherDocs();
 }
 
-frmDlgOpenDoc::~frmDlgOpenDoc() = default;
+frmDlgOpenDoc::~frmDlgOpenDoc()
+{
+    // The focus still moves when the controls go, which is after their names have gone.
+    disconnect(qApp, nullptr, this, nullptr);
+}
 
+/// The folder of the documents is kept as "PATHDOC" and asked for as "PATHPDOC": only pictures come back to their last
+/// folder. Known, and left as it is.
 void frmDlgOpenDoc::openRememberedFolder()
 {
-    const QString remembered = session().setting(u"PATHPHOTO"_s);
-    showFolder(QDir(remembered).exists() && !remembered.isEmpty() ? remembered : QDir::homePath());
+    QStringList remembered = {session().setting(u"PATHPHOTO"_s), QDir::homePath()};
+    if (!session().gbPhotos)
+        remembered.prepend(session().setting(u"PATHPDOC"_s));
+    for (const QString &path : remembered) {
+        if (!path.isEmpty() && QDir(path).exists()) {
+            showFolder(path);
+            return;
+        }
+    }
 }
 
 void frmDlgOpenDoc::wire()
@@ -44,9 +74,14 @@ void frmDlgOpenDoc::wire()
     connect(m_ui->Drive1, &QComboBox::activated, this, [this] { showFolder(m_ui->Drive1->currentText()); });
     connect(m_ui->Dir1->selectionModel(), &QItemSelectionModel::currentChanged, this, &frmDlgOpenDoc::fillFiles);
     connect(m_ui->cbType, &QComboBox::currentIndexChanged, this, &frmDlgOpenDoc::fillFiles);
-    connect(m_ui->File1, &QListWidget::currentTextChanged, this, [this](const QString &name) {
-        m_ui->txtNom->setText(name);
-        showPreview();
+    for (const QListWidget *list : {m_ui->File1, m_ui->lstSelected}) {
+        connect(list, &QListWidget::currentItemChanged, this, &frmDlgOpenDoc::enter);
+        connect(list, &QListWidget::itemClicked, this, &frmDlgOpenDoc::enter);
+    }
+    connect(qApp, &QApplication::focusChanged, this, [this](QWidget *, const QWidget *entered) {
+        for (const QListWidget *list : {m_ui->File1, m_ui->lstSelected})
+            if (list == entered)
+                showPreview(list->currentItem());
     });
     connect(m_ui->File1, &QListWidget::itemDoubleClicked, this, &frmDlgOpenDoc::add);
     connect(m_ui->txtNom, &QLineEdit::textChanged, this,
@@ -90,38 +125,75 @@ void frmDlgOpenDoc::fillFiles()
     m_ui->File1->addItems(QDir(folder()).entryList({filter == u"*.*"_s ? u"*"_s : filter}, QDir::Files));
 }
 
-void frmDlgOpenDoc::showPreview()
+QString frmDlgOpenDoc::pathOf(const QListWidgetItem &entry) const
 {
-    QImageReader picture(folder() + u'/' + m_ui->txtNom->text());
-    picture.setAutoTransform(true);
-    QSize size = picture.size();
-    if (size.isValid())
-        picture.setScaledSize(size.scaled(m_ui->imgApercu->size(), Qt::KeepAspectRatio));
-    m_ui->imgApercu->setPixmap(QPixmap::fromImage(picture.read()));
+    return entry.listWidget() == m_ui->File1 ? QDir(folder()).filePath(entry.text()) : session().filePath(entry.text());
+}
+
+/// The name of the entry under the cursor, in either list, so that one who only takes files out can validate too.
+void frmDlgOpenDoc::enter(const QListWidgetItem *entry)
+{
+    if (entry)
+        m_ui->txtNom->setText(QFileInfo(entry->text()).fileName());
+    showPreview(entry);
+}
+
+void frmDlgOpenDoc::showPreview(const QListWidgetItem *entry)
+{
+    m_ui->imgApercu->clear();
+    if (!entry)
+        return;
+    m_ui->imgApercu->setPixmap(Picture::fitted(pathOf(*entry), m_ui->imgApercu->contentsRect().size()));
+}
+
+void frmDlgOpenDoc::AfficherDocs()
+{
+    QStringList paths;
+    if (const Result read = Attachments::AfficherDocs(session(), paths); !read)
+        session().messages->box(read.message(), u"AfficherDocs"_s);
+    m_ui->lstSelected->clear();
+    m_ui->lstSelected->addItems(paths);
 }
 
 bool frmDlgOpenDoc::VerifierElementListe(const QString &path) const
 {
-    return !m_ui->lstSelected->findItems(path, Qt::MatchExactly | Qt::MatchCaseSensitive).isEmpty();
+    return Attachments::contains(session(), textsOf(*m_ui->lstSelected), path);
 }
 
 void frmDlgOpenDoc::add()
 {
-    if (m_ui->lstSelected->count() > 0 || m_ui->File1->currentRow() < 0)
+    if (session().gbChoixFichier && m_ui->lstSelected->count() > 0)
         return; // a picker takes one file
-    const QString path = folder() + u'/' + m_ui->File1->currentItem()->text();
-    if (!VerifierElementListe(path))
+    const QListWidgetItem *file = m_ui->File1->currentItem();
+    if (!file)
+        return;
+    if (const QString path = pathOf(*file); !VerifierElementListe(path))
         m_ui->lstSelected->addItem(path);
 }
 
 void frmDlgOpenDoc::validate()
 {
+    if (session().gbChoixFichier ? pick() : writeList())
+        accept();
+}
+
+bool frmDlgOpenDoc::pick()
+{
+    add();
     if (m_ui->lstSelected->count() == 0)
-        add();
-    if (m_ui->lstSelected->count() == 0)
-        return;
+        return false;
     m_chosen = m_ui->lstSelected->item(0)->text();
     // Only a convenience of the next time.
     (void)session().saveSetting(u"PATHPHOTO"_s, folder());
-    accept();
+    return true;
+}
+
+/// After a failure the dialogue stays open with its list, to take out or rename what could not be written.
+bool frmDlgOpenDoc::writeList()
+{
+    const Attachments::Failures failures = Attachments::replace(session(), textsOf(*m_ui->lstSelected));
+    (void)session().saveSetting(session().gbPhotos ? u"PATHPHOTO"_s : u"PATHDOC"_s, folder());
+    for (const Attachments::Failure &failure : failures)
+        session().messages->box(failure.result.message(), failure.method);
+    return failures.empty();
 }

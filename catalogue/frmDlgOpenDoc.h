@@ -4,18 +4,21 @@
 #include <memory>
 
 class QFileSystemModel;
+class QListWidget;
+class QListWidgetItem;
 namespace Ui {
 class frmDlgOpenDoc;
 }
 
-/// The file dialogue, here as the picker of a single picture for another screen.
+/// The file dialogue in its two uses: the editor of the pictures or the documents of the product at hand, and, where
+/// `gbChoixFichier` is set, the picker of one file for another screen, which leaves the store alone.
 class frmDlgOpenDoc : public Screen {
     Q_OBJECT
 public:
     frmDlgOpenDoc(Session &session, QWidget *parent);
     ~frmDlgOpenDoc() override;
 
-    /// Full path of the file that was validated; empty when the dialogue was left.
+    /// Full path of the file that the picker validated; empty when the dialogue was left.
     const QString &chosenPath() const { return m_chosen; }
 
 private:
@@ -24,9 +27,14 @@ private:
     QString folder() const;
     void showFolder(const QString &path);
     void fillFiles();
-    void showPreview();
+    QString pathOf(const QListWidgetItem &entry) const;
+    void enter(const QListWidgetItem *entry);
+    void showPreview(const QListWidgetItem *entry);
+    void AfficherDocs();
     void add();
     void validate();
+    bool pick();
+    bool writeList();
     bool VerifierElementListe(const QString &path) const;
 
     std::unique_ptr<Ui::frmDlgOpenDoc> m_ui;

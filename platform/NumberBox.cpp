@@ -1,6 +1,7 @@
 #include "platform/NumberBox.h"
 
 #include <QFocusEvent>
+#include <QKeyEvent>
 #include <QRegularExpression>
 #include <QRegularExpressionValidator>
 #include <QToolTip>
@@ -32,10 +33,9 @@ NumberBox::NumberBox(QWidget *parent) : QLineEdit(parent)
     setAlignment(Qt::AlignRight);
     allow();
     connect(this, &QLineEdit::inputRejected, this, [this] {
-        QToolTip::showText(mapToGlobal(QPoint(0, height())), u"0 … "_s + QString::number(maximum(), 'f', m_whole ? 0 : 2),
-                           this);
+        QToolTip::showText(mapToGlobal(QPoint(0, height())),
+                           u"0 … "_s + QString::number(maximum(), 'f', m_whole ? 0 : 2), this);
     });
-    connect(this, &QLineEdit::returnPressed, this, &NumberBox::complete);
 }
 
 void NumberBox::setDigits(int digits)
@@ -83,13 +83,22 @@ std::optional<double> NumberBox::read(const QString &text) const
 }
 
 /// Only what differs from what is shown is an entry: a value may have more decimals than the box shows.
-void NumberBox::complete()
+bool NumberBox::complete()
 {
     if (text() == (m_number ? shown(*m_number) : QString()))
-        return;
+        return false;
     const QString typed = text();
     setNumber(read(typed));
     Q_EMIT numberEntered(m_number);
+    return true;
+}
+
+/// Enter that ends an entry must not press the window's default button as well.
+void NumberBox::keyPressEvent(QKeyEvent *event)
+{
+    const bool enter = event->key() == Qt::Key_Return || event->key() == Qt::Key_Enter;
+    if (!enter || !complete())
+        QLineEdit::keyPressEvent(event);
 }
 
 void NumberBox::focusInEvent(QFocusEvent *event)

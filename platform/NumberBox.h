@@ -4,8 +4,8 @@
 #include <optional>
 
 /// A line edit that holds a number of at most two decimals, or null. A person's entry counts when it is complete,
-/// that is with Enter or when the box is left. Commas and blanks are taken as they are typed or pasted; anything
-/// that is no number between the limits is refused with the limits beside the box.
+/// that is with Enter, which goes no further then, or when the box is left. Commas and blanks are taken as they are
+/// typed or pasted; anything that is no number between the limits is refused with the limits beside the box.
 class NumberBox : public QLineEdit {
     Q_OBJECT
     /// Always two decimals, as amounts have; else only those that count.
@@ -29,8 +29,8 @@ public:
     /// The number that a stored text holds, with either decimal mark; null for any other text, and outside the limits.
     std::optional<double> read(const QString &text) const;
     double maximum() const;
-    /// Takes what has been typed so far for a complete entry.
-    void complete();
+    /// Takes what has been typed so far for a complete entry; false when there was none.
+    bool complete();
 
 Q_SIGNALS:
     void numberEntered(std::optional<double> number);
@@ -39,6 +39,7 @@ Q_SIGNALS:
     void focusLost(Qt::FocusReason reason);
 
 protected:
+    void keyPressEvent(QKeyEvent *event) override;
     void focusInEvent(QFocusEvent *event) override;
     void focusOutEvent(QFocusEvent *event) override;
 

@@ -2,6 +2,7 @@
 #include <QString>
 #include <optional>
 
+class QMdiArea;
 class QWidget;
 
 /// A file that a person picked: its full path and its bare name.
@@ -17,8 +18,9 @@ public:
 
     virtual void showCatalogue(QWidget *parent) = 0; ///< the shop
     virtual void showInfo(QWidget *parent) = 0;      ///< the company data
-    /// The product list beside the frame, the reference trees and the FTP client; false while there is none.
-    virtual bool showProducts(QWidget *parent) = 0;
+    /// The product list, a child window of the frame; a second call brings it to the front.
+    virtual void showProducts(QMdiArea *frame) = 0;
+    /// The reference trees and the FTP client; false while there is none.
     virtual bool showTree(QWidget *parent, bool bCategorie) = 0;
     virtual bool showFtp(QWidget *parent) = 0;
     /// The file dialogue as the picker of one picture; nothing when it was left.

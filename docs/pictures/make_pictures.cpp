@@ -110,6 +110,8 @@ void saveWindows(Session &session, const QString &folder)
     {
         (void)session.saveSetting(u"PATHPHOTO"_s,
                                   ApplicationFolder::sample(session.applicationFolder) + u"/pictures"_s);
+        session.gbPhotos = true;
+        session.gbChoixFichier = true;
         frmDlgOpenDoc window(session, nullptr);
         window.findChild<QComboBox *>(u"cbType"_s)->setCurrentIndex(6);
         window.findChild<QListWidget *>(u"File1"_s)->setCurrentRow(0);

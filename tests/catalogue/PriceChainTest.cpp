@@ -22,11 +22,11 @@ namespace {
 
 const QHash<QString, Field> &fields()
 {
-    static const QHash<QString, Field> names = {
-        {u"achat"_s, Field::PrixAchat}, {u"achatTTC"_s, Field::PrixAchatTTC}, {u"frais"_s, Field::Frais},
-        {u"revient"_s, Field::PrixRevient}, {u"valA"_s, Field::ValeurA}, {u"marge"_s, Field::Marge},
-        {u"ht"_s, Field::PrixVenteHT}, {u"vente"_s, Field::PrixVente}, {u"valV"_s, Field::ValeurV},
-        {u"qte"_s, Field::Qte}};
+    static const QHash<QString, Field> names = {{u"achat"_s, Field::PrixAchat}, {u"achatTTC"_s, Field::PrixAchatTTC},
+                                                {u"frais"_s, Field::Frais},     {u"revient"_s, Field::PrixRevient},
+                                                {u"valA"_s, Field::ValeurA},    {u"marge"_s, Field::Marge},
+                                                {u"ht"_s, Field::PrixVenteHT},  {u"vente"_s, Field::PrixVente},
+                                                {u"valV"_s, Field::ValeurV},    {u"qte"_s, Field::Qte}};
     return names;
 }
 
@@ -98,7 +98,8 @@ void PriceChainTest::reactions_data()
     row("with tax is silent while the other drives", "tvaV=21 +ht ht=100 vente=242", "vente=242.00 ht=100.00");
     row("sale rate moves the price without tax", "tvaV=21 vente=121 +tvaV tvaV=10", "vente=121.00 ht=110.00");
     row("sale rate under the latch", "tvaV=21 vente=121 tvaV=10", "vente=121.00 ht=110.00");
-    row("purchase rate moves the price with tax", "tvaA=21 achat=100 tvaA=6", "achat=100.00 achatTTC=106.00 revient=106.00");
+    row("purchase rate moves the price with tax", "tvaA=21 achat=100 tvaA=6",
+        "achat=100.00 achatTTC=106.00 revient=106.00");
     row("no rates", "tvaA=- tvaV=- achat=100 marge=2 achatTTC=120",
         "achat=100.00 achatTTC=120.00 revient=120.00 vente=240.00 ht= marge=2.00");
     row("emptied quantity keeps the values", "qte=3 achatTTC=10 vente=20 qte=", "valA=30.00 valV=60.00 qte=");
@@ -115,14 +116,16 @@ void PriceChainTest::reactions_data()
     row("too much for a box", "qte=3 achatTTC=600000 marge=2", "revient=600000.00 valA= vente= ht= marge=2.00");
     row("largest price fits", "achatTTC=999999.99", "revient=999999.99");
     row("refused entries", "tvaA=21 achat=100 achat=1000000 achat=-5", "achat=100.00 achatTTC=121.00");
-    row("hand-made cost price", "tvaV=0 achatTTC=100 marge=2 -vente revient=50", "revient=50.00 vente=100.00 achatTTC=100.00");
+    row("hand-made cost price", "tvaV=0 achatTTC=100 marge=2 -vente revient=50",
+        "revient=50.00 vente=100.00 achatTTC=100.00");
     row("no rounding on the way", "tvaA=5.5 tvaV=20 marge=3 achat=33.33",
         "achatTTC=35.16 revient=35.16 vente=105.49 ht=87.91 marge=3.00");
     row("loading counts the cost price again",
-        "tvaA=20 load qte=2 achat=100 marge=3 vente=300 frais=5 revient=50 valA=7 valV=8 achatTTC=110 ht=250 tvaA=21 loaded",
+        "tvaA=20 load qte=2 achat=100 marge=3 vente=300 frais=5 revient=50 valA=7 valV=8 achatTTC=110 ht=250 tvaA=21 "
+        "loaded",
         "achatTTC=121.00 revient=126.00 vente=300.00 ht=250.00 marge=3.00 valA=7.00 valV=8.00");
-    row("loading of equal prices too",
-        "tvaA=21 load achat=100 frais=5 revient=50 achatTTC=121 tvaA=21 loaded", "achatTTC=121.00 revient=126.00");
+    row("loading of equal prices too", "tvaA=21 load achat=100 frais=5 revient=50 achatTTC=121 tvaA=21 loaded",
+        "achatTTC=121.00 revient=126.00");
     row("loaded product reacts", "tvaA=21 tvaV=21 load achat=100 marge=2 vente=242 tvaA=21 loaded achat=200",
         "revient=242.00 vente=484.00 ht=400.00");
     row("silent rate counts afterwards", "load tvaV=21 loaded vente=121", "ht=100.00");

@@ -1,0 +1,128 @@
+#include "catalogue/ArticleControls.h"
+
+#include "platform/NumberBox.h"
+
+#include <QCheckBox>
+#include <QLabel>
+#include <QListWidget>
+#include <QPlainTextEdit>
+#include <QRegularExpression>
+#include <QTabWidget>
+
+using namespace Qt::StringLiterals;
+
+namespace {
+
+struct Pair {
+    QString column;
+    QString control;
+};
+
+const std::vector<Pair> &lines()
+{
+    static const std::vector<Pair> pairs = {
+        {u"sRef"_s, u"txtRef_Article"_s},
+        {u"sNumSerie"_s, u"txtNumSerie"_s},
+        {u"sEan"_s, u"txtEan"_s},
+        {u"dDate_creation"_s, u"txtDateCreat"_s},
+        {u"dDate_modification"_s, u"txtDateModif"_s},
+        {u"sMarque"_s, u"txtMarque"_s},
+        {u"sModele"_s, u"txtModele"_s},
+        {u"sRefFournisseur"_s, u"txtRefFour"_s},
+        {u"sCondition"_s, u"txtCondition"_s},
+        {u"sDimension"_s, u"txtDimension"_s},
+        {u"sLibre1"_s, u"txtLibre1"_s},
+        {u"sLibre2"_s, u"txtLibre2"_s},
+        {u"sLibre3"_s, u"txtLibre3"_s},
+        {u"sCompteA"_s, u"txtCompteA"_s},
+        {u"sCompteV"_s, u"txtCompteV"_s},
+    };
+    return pairs;
+}
+
+const std::vector<Pair> &numbers()
+{
+    static const std::vector<Pair> pairs = {
+        {u"sGarantie"_s, u"txtGarantie"_s}, {u"sSeuil"_s, u"txtSeuil"_s}, {u"sPoids"_s, u"txtPoids"_s}};
+    return pairs;
+}
+
+const std::vector<Pair> &ticks()
+{
+    static const std::vector<Pair> pairs = {{u"bQteStock"_s, u"chControlStock"_s}, {u"bPrixQte"_s, u"chPrix"_s}};
+    return pairs;
+}
+
+template <typename Control>
+Control &find(const QWidget &screen, const QString &name)
+{
+    return *screen.findChild<Control *>(name);
+}
+
+QString nameColumn(const QWidget &screen, int i)
+{
+    return u"sNom"_s + find<QLabel>(screen, u"lbNom_%1"_s.arg(i)).text();
+}
+
+QString descriptionColumn(const QWidget &screen, int i)
+{
+    return u"sObservation"_s + find<QTabWidget>(screen, u"SSTab1"_s).tabText(i);
+}
+
+/// A pasted line break or tab has no place in a box of one line.
+QString oneLine(QString text)
+{
+    static const QRegularExpression breaks(u"[\\x00-\\x1f\\x{2028}\\x{2029}]+"_s);
+    return text.replace(breaks, u" "_s);
+}
+
+} // namespace
+
+void ArticleControls::show(const Article &article, QWidget &screen)
+{
+    for (const Pair &pair : lines())
+        if (article.has(pair.column))
+            find<QLineEdit>(screen, pair.control).setText(article.text(pair.column));
+    for (const Pair &pair : numbers()) {
+        auto &box = find<NumberBox>(screen, pair.control);
+        if (article.has(pair.column))
+            box.setNumber(box.read(article.text(pair.column)));
+    }
+    for (int i = 0; i < Article::languages().size(); ++i) {
+        if (const QString column = nameColumn(screen, i); article.has(column))
+            find<QLineEdit>(screen, u"txtNom_%1"_s.arg(i)).setText(article.text(column));
+        if (const QString column = descriptionColumn(screen, i); article.has(column))
+            find<QPlainTextEdit>(screen, u"txtObservation_%1"_s.arg(i)).setPlainText(article.text(column));
+    }
+    for (const Pair &pair : ticks())
+        if (article.has(pair.column))
+            find<QCheckBox>(screen, pair.control).setChecked(article.text(pair.column) != u"0"_s);
+}
+
+void ArticleControls::take(Article &article, const QWidget &screen)
+{
+    for (const Pair &pair : lines())
+        article.setText(pair.column, oneLine(find<QLineEdit>(screen, pair.control).text()));
+    for (const Pair &pair : numbers())
+        article.setText(pair.column, find<NumberBox>(screen, pair.control).text());
+    for (int i = 0; i < Article::languages().size(); ++i) {
+        article.setText(nameColumn(screen, i), oneLine(find<QLineEdit>(screen, u"txtNom_%1"_s.arg(i)).text()));
+        article.setText(
+            descriptionColumn(screen, i),
+            find<QPlainTextEdit>(screen, u"txtObservation_%1"_s.arg(i)).toPlainText().replace(u"\n"_s, u"\r\n"_s));
+    }
+    for (const Pair &pair : ticks())
+        article.setNumber(pair.column, find<QCheckBox>(screen, pair.control).isChecked() ? 1 : 0);
+}
+
+void ArticleControls::clear(QWidget &screen)
+{
+    for (QLineEdit *box : screen.findChildren<QLineEdit *>())
+        box->clear();
+    for (NumberBox *box : screen.findChildren<NumberBox *>())
+        box->setNumber({});
+    for (QPlainTextEdit *box : screen.findChildren<QPlainTextEdit *>())
+        box->clear();
+    for (QListWidget *list : screen.findChildren<QListWidget *>())
+        list->clear();
+}

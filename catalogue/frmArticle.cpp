@@ -1,0 +1,411 @@
+#include "catalogue/frmArticle.h"
+
+#include "catalogue/ArticleControls.h"
+#include "catalogue/AttributeGrid.h"
+#include "catalogue/BandGrid.h"
+#include "catalogue/Ean13.h"
+#include "catalogue/KeyCombo.h"
+#include "catalogue/PriceBlock.h"
+#include "catalogue/ProductNumber.h"
+#include "catalogue/frmDlgOpenDoc.h"
+#include "platform/BarcodeReader.h"
+#include "platform/Desktop.h"
+#include "platform/Messages.h"
+#include "platform/Picture.h"
+#include "ui_frmArticle.h"
+
+using namespace Qt::StringLiterals;
+using Field = PriceChain::Field;
+
+namespace {
+
+const QString title = u"ZELVANTOR"_s;
+const QString dateForm = u"dd/MM/yyyy"_s;
+
+} // namespace
+
+frmArticle::frmArticle(Session &screenSession, QWidget *parent)
+    : Screen(screenSession, parent), m_ui(std::make_unique<Ui::frmArticle>()), m_reader(new BarcodeReader(this))
+{
+    m_ui->setupUi(this);
+    session().gbChoixFichier = false;
+    m_prices = std::make_unique<PriceBlock>(*this);
+    m_bands = std::make_unique<BandGrid>(*m_ui->fpSpread2);
+    m_attributes = std::make_unique<AttributeGrid>(*m_ui->fpSpread1, session());
+    m_prices->chain().bChargement = true;
+    m_prices->chain().type(Field::Qte, 1);
+    m_ui->txtSeuil->setNumber(1);
+    opened();
+    giveCurrency();
+    wire();
+    InitPico();
+    fillCombos();
+    openInMode();
+    m_prices->chain().bChargement = false;
+}
+
+frmArticle::~frmArticle() = default;
+
+bool frmArticle::isMode(Mode mode) const
+{
+    return session().giModeProduit == mode;
+}
+
+void frmArticle::giveCurrency()
+{
+    const QString currency = session().gsMonnaie + u')';
+    m_ui->frAchat->setTitle(m_ui->frAchat->title() + currency);
+    m_ui->frVente->setTitle(m_ui->frVente->title() + currency);
+    m_ui->lbPrixRevient->setText(m_ui->lbPrixRevient->text() + currency);
+}
+
+void frmArticle::fillCombos()
+{
+    Session &values = session();
+    // A key of the product before would be stored though nothing is chosen here.
+    values.glIdFamille = values.glIdCategorie = values.glIdFournisseur = values.glIdTvaA = values.glIdTvaV = 0;
+    m_category = std::make_unique<KeyCombo>(*m_ui->cbCategory, [this] { chooseCategory(); });
+    m_family = std::make_unique<KeyCombo>(*m_ui->cbFamille, [this] { chooseFamily(); });
+    m_supplier = std::make_unique<KeyCombo>(*m_ui->cbFournisseur,
+                                            [this] { session().glIdFournisseur = m_supplier->key().value_or(0); });
+    m_tvaA = std::make_unique<KeyCombo>(*m_ui->cbTVAA, [this] {
+        session().glIdTvaA = m_tvaA->key().value_or(0);
+        m_prices->chain().chooseTvaA(m_tvaA->number());
+    });
+    m_tvaV = std::make_unique<KeyCombo>(*m_ui->cbTvaV, [this] { chooseTvaV(); });
+    m_category->RemplirCB(values, u"REF_CATEGORIE_P"_s);
+    m_supplier->RemplirCB(values, u"REF_SHIPPER"_s);
+    m_tvaA->RemplirCB(values, u"REF_TVA"_s);
+    m_tvaV->RemplirCB(values, u"REF_TVA"_s);
+    m_bands->setRates(m_tvaV->rows().texts);
+    const int units = values.localisation.CompterCles(u"LUNITE"_s);
+    for (int unit = 1; unit <= units; ++unit)
+        m_ui->cbUnite->addItem(values.localisation.Traduire(u"LUNITE"_s, QString::number(unit)));
+    m_ui->cbUnite->setCurrentIndex(0);
+    m_tvaA->choose(0);
+    m_tvaV->choose(0);
+    values.glIdTvaV = m_tvaV->key().value_or(0);
+    m_bands->chooseRate(0);
+}
+
+void frmArticle::wire()
+{
+    for (int i = 0; i < Article::languages().size(); ++i)
+        connect(findChild<QLineEdit *>(u"txtNom_%1"_s.arg(i)), &QLineEdit::textChanged, this,
+                [this](const QString &text) {
+                    if (text.isEmpty())
+                        return;
+                    m_ui->cmdValider0->setEnabled(true);
+                    m_ui->cmdFiche->setEnabled(true);
+                });
+    connect(m_ui->txtMarque, &QLineEdit::textEdited, this, [this](QString text) {
+        const int cursor = m_ui->txtMarque->cursorPosition();
+        for (QChar &letter : text)
+            if (letter >= u'a' && letter <= u'z')
+                letter = letter.toUpper();
+        m_ui->txtMarque->setText(text);
+        m_ui->txtMarque->setCursorPosition(cursor);
+    });
+    connect(m_ui->cmdTrans, &QToolButton::clicked, this,
+            [this] { m_ui->txtEan->setText(Ean13::fromReference(m_ui->txtRef_Article->text())); });
+    connect(m_reader, &BarcodeReader::codeRead, m_ui->txtEan, &QLineEdit::setText);
+    connect(m_ui->chPrix, &QCheckBox::toggled, this, [this](bool shown) {
+        m_ui->fpSpread2->setVisible(shown);
+        if (shown)
+            m_ui->fpSpread2->setActiveCell(1, 1);
+    });
+    connect(m_ui->cmdAddPict, &QPushButton::clicked, this, [this] {
+        session().giSmall = 0;
+        editAttachments(true);
+    });
+    connect(m_ui->cmdAddPictSmall, &QPushButton::clicked, this, [this] {
+        session().giSmall = 1;
+        editAttachments(true);
+    });
+    connect(m_ui->cmdAddDoc, &QPushButton::clicked, this, [this] { editAttachments(false); });
+    for (AttachmentList *list : {m_ui->lstPicture, m_ui->lstDoc}) {
+        connect(list, &AttachmentList::filesDropped, this,
+                [this, list](const QStringList &paths) { addDropped(list == m_ui->lstPicture, paths); });
+        connect(list, &QListWidget::itemActivated, this,
+                [this](const QListWidgetItem *item) { session().desktop->open(session().filePath(item->text())); });
+    }
+    connect(m_ui->lstPicture, &QListWidget::currentRowChanged, this, &frmArticle::showPicture);
+    connect(m_ui->cmdValider0, &QPushButton::clicked, this, &frmArticle::save);
+    connect(m_ui->cmdFermer, &QPushButton::clicked, this, &frmArticle::reject);
+}
+
+void frmArticle::InitPico()
+{
+    m_reader->open(session().setting(u"LECTEUR"_s));
+}
+
+void frmArticle::openInMode()
+{
+    if (isMode(New)) {
+        m_ui->cmdEtiquette->setEnabled(false);
+        startNewProduct();
+        return;
+    }
+    if (isMode(Consult))
+        m_ui->cmdValider0->setEnabled(false);
+    else
+        m_ui->cmdEtiquette->setEnabled(true);
+    AfficherArticle();
+    AfficherPrix();
+    session().gbRafraichirListe = true;
+    session().gbPhotos = true;
+    AfficherDocs();
+    session().gbPhotos = false;
+    AfficherDocs();
+}
+
+/// The next number, which is taken though the product may never be saved, and what follows from it.
+void frmArticle::startNewProduct()
+{
+    m_prices->chain().bChargement = false;
+    const ProductNumber::Taken taken = ProductNumber::ChercherNumProduit(session().gCnn);
+    report(taken.failures, u"ChercherNumProduit"_s);
+    session().glIdProduit = taken.number.value_or(session().glIdProduit);
+    session().gbRafraichirListe = false;
+    m_ui->txtRef_Article->setText(ProductNumber::reference(session().glIdProduit, session().clock.today()));
+    m_ui->txtDateCreat->setText(today());
+    m_ui->txtDateModif->setText(today());
+    m_ui->txtObservation_0->clear();
+}
+
+void frmArticle::AfficherArticle()
+{
+    Article article;
+    Reader row = session().gCnn.read(Article::selectStatement(session().glIdProduit));
+    if (row.next())
+        for (int column = 0; column < Article::columns().size(); ++column)
+            if (!row.isNull(column))
+                article.setText(Article::columns()[column], row.text(column));
+    if (!row.result())
+        report({row.result()}, u"AfficherArticle"_s);
+    ArticleControls::show(article, *this);
+    m_prices->show(article);
+    const auto giveKey = [&article](int &key, const QString &column) {
+        if (article.has(column))
+            key = article.text(column).toInt();
+    };
+    giveKey(session().glIdCategorie, u"idCategorie"_s);
+    giveKey(session().glIdFamille, u"idFamille"_s);
+    giveKey(session().glIdFournisseur, u"idFournisseur"_s);
+    giveKey(session().glIdTvaA, u"idTVAA"_s);
+    giveKey(session().glIdTvaV, u"idTVAV"_s);
+    if (article.has(u"idUnite"_s))
+        m_ui->cbUnite->setCurrentIndex(article.text(u"idUnite"_s).toInt());
+    placeCombos();
+    m_ui->SSTab1->setCurrentIndex(0);
+}
+
+/// The group comes before the sub-group, whose keys it brings, and the choice of a rate counts the prices again.
+void frmArticle::placeCombos()
+{
+    const Session &values = session();
+    const int family = values.glIdFamille;
+    m_category->chooseKey(values.glIdCategorie);
+    m_family->chooseKey(family);
+    m_attributes->AfficherFParam();
+    m_supplier->chooseKey(values.glIdFournisseur);
+    m_tvaA->chooseKey(values.glIdTvaA);
+    m_tvaV->chooseKey(values.glIdTvaV);
+}
+
+void frmArticle::AfficherPrix()
+{
+    Result read;
+    m_bands->show(ProductRows::readBands(session().gCnn, session().glIdProduit, read));
+    if (!read)
+        report({read}, u"AfficherPrix"_s);
+}
+
+void frmArticle::AfficherDocs()
+{
+    QStringList paths;
+    const auto fill = [this, &paths](QListWidget &list, const Result &read) {
+        list.clear();
+        list.addItems(paths);
+        if (!read)
+            report({read}, u"AfficherDocs"_s);
+    };
+    if (!session().gbPhotos) {
+        const Result read = Attachments::documents(session(), paths);
+        fill(*m_ui->lstDoc, read);
+    }
+    paths.clear();
+    const Result read = Attachments::pictures(session(), paths);
+    fill(*m_ui->lstPicture, read);
+    showPicture();
+}
+
+void frmArticle::showPicture()
+{
+    const QListWidgetItem *chosen = m_ui->lstPicture->currentItem();
+    m_ui->imgPhoto->setPixmap(
+        chosen ? Picture::fitted(session().filePath(chosen->text()), m_ui->imgPhoto->contentsRect().size())
+               : QPixmap());
+}
+
+void frmArticle::Initialiser()
+{
+    ArticleControls::clear(*this);
+    m_prices->clear();
+    m_ui->cmdFiche->setEnabled(false);
+    session().giModeProduit = New;
+    m_ui->cmdEtiquette->setEnabled(false);
+    startNewProduct();
+    m_ui->txtSeuil->setNumber(1);
+    m_prices->chain().type(Field::Qte, 1);
+    m_ui->fpSpread2->hide();
+    m_ui->chPrix->setChecked(false);
+    m_prices->chain().startAgain();
+    m_bands->clear();
+    m_ui->txtRef_Article->setFocus();
+}
+
+void frmArticle::chooseCategory()
+{
+    session().glIdCategorie = m_category->key().value_or(0);
+    m_sCategorie = m_category->text();
+    m_family->RemplirCB(session(), u"REF_FAMILLE"_s);
+}
+
+void frmArticle::chooseFamily()
+{
+    session().glIdFamille = m_family->key().value_or(0);
+    m_sFamille = m_family->text();
+    m_attributes->AfficherFParam();
+}
+
+void frmArticle::chooseTvaV()
+{
+    PriceChain &chain = m_prices->chain();
+    if (!chain.bChargement) {
+        m_bands->chooseRate(m_ui->cbTvaV->currentIndex());
+        session().glIdTvaV = m_tvaV->key().value_or(0);
+    }
+    chain.chooseTvaV(m_tvaV->number());
+}
+
+/// Tells what is missing, and leads to it.
+bool frmArticle::isComplete()
+{
+    struct Need {
+        bool met;
+        const char16_t *message;
+        QWidget *control;
+    };
+    const Need needs[] = {
+        {m_ui->cbFamille->currentIndex() >= 0, u"114", m_ui->cbFamille},
+        {m_ui->cbCategory->currentIndex() >= 0, u"115", m_ui->cbCategory},
+        {!m_ui->txtRef_Article->text().trimmed().isEmpty(), u"117", m_ui->txtRef_Article},
+        {!m_ui->txtNom_0->text().trimmed().isEmpty(), u"118", m_ui->txtNom_0},
+    };
+    for (const Need &need : needs) {
+        if (need.met)
+            continue;
+        session().messages->box(message(QString::fromUtf16(need.message)), title);
+        need.control->setFocus();
+        return false;
+    }
+    return true;
+}
+
+/// Row, attributes and prices reach the store as one action; its failures are told when the store is free again.
+void frmArticle::save()
+{
+    for (NumberBox *box : findChildren<NumberBox *>())
+        box->complete();
+    if (!isComplete())
+        return;
+    std::vector<Result> attributes;
+    std::vector<Result> prices;
+    Result article;
+    {
+        StoreAction action(session().gCnn);
+        article = action.begun() ? AjouterArticle() : action.begun();
+        if (article) {
+            attributes =
+                ProductRows::writeAttributes(session().gCnn, session().glIdProduit, m_attributes->attributes());
+            prices = ProductRows::writeBands(session().gCnn, session().glIdProduit, m_bands->bands());
+        }
+        if (const Result ended = action.end(); article)
+            article = ended;
+    }
+    if (!article)
+        report({article}, u"AjouterArticle"_s);
+    report(attributes, u"AjouterFParam"_s);
+    report(prices, u"AjouterPrix"_s);
+    if (article)
+        saved();
+    session().gbRafraichirListe = true;
+}
+
+/// In consult mode nothing is written, and all goes on as if it had been.
+Result frmArticle::AjouterArticle()
+{
+    if (isMode(Consult))
+        return {};
+    Session &values = session();
+    Article article;
+    ArticleControls::take(article, *this);
+    m_prices->take(article);
+    article.setNumber(u"idProduit"_s, values.glIdProduit);
+    article.setNumber(u"idCategorie"_s, values.glIdCategorie);
+    article.setNumber(u"idFamille"_s, values.glIdFamille);
+    article.setNumber(u"idFournisseur"_s, values.glIdFournisseur);
+    article.setNumber(u"idTVAA"_s, values.glIdTvaA);
+    article.setNumber(u"idTVAV"_s, values.glIdTvaV);
+    article.setNumber(u"idUnite"_s, m_ui->cbUnite->currentIndex());
+    article.setText(u"sCategorie"_s, m_sCategorie);
+    article.setText(u"sFamille"_s, m_sFamille);
+    if (isMode(New))
+        return values.gCnn.execute(article.insertStatement());
+    article.setText(u"dDate_modification"_s, today());
+    return values.gCnn.execute(article.updateStatement());
+}
+
+void frmArticle::saved()
+{
+    if (!isMode(New)) {
+        m_ui->cmdEtiquette->setEnabled(true);
+    } else {
+        session().messages->question(message(u"119"_s), title);
+        Initialiser();
+    }
+    m_ui->cmdValider0->setEnabled(false);
+}
+
+void frmArticle::editAttachments(bool photos)
+{
+    session().gbPhotos = photos;
+    frmDlgOpenDoc(session(), this).exec();
+    AfficherDocs();
+}
+
+void frmArticle::addDropped(bool photos, const QStringList &paths)
+{
+    session().gbPhotos = photos;
+    session().giSmall = 0;
+    for (const Attachments::Failure &failure : Attachments::addDroppedFiles(session(), paths))
+        report({failure.result}, failure.method);
+    AfficherDocs();
+}
+
+void frmArticle::report(const std::vector<Result> &failures, const QString &method) const
+{
+    for (const Result &failure : failures)
+        session().messages->box(failure.message(), method);
+}
+
+QString frmArticle::message(const QString &key) const
+{
+    return session().localisation.Traduire(u"MESSAGES"_s, key);
+}
+
+QString frmArticle::today() const
+{
+    return session().clock.today().toString(dateForm);
+}

@@ -1,0 +1,67 @@
+#pragma once
+#include "catalogue/Attachments.h"
+#include "shell/Screen.h"
+
+#include <memory>
+
+class AttributeGrid;
+class BandGrid;
+class BarcodeReader;
+class KeyCombo;
+class PriceBlock;
+namespace Ui {
+class frmArticle;
+}
+
+/// One product, with all that the merchant says about it. Opened with `giModeProduit` and, but for a new product,
+/// `glIdProduit` set; leaves `gbRafraichirListe` for the list that opened it.
+class frmArticle : public Screen {
+    Q_OBJECT
+public:
+    frmArticle(Session &session, QWidget *parent);
+    ~frmArticle() override;
+
+private:
+    enum Mode { New = 1, Modify, Consult };
+
+    bool isMode(Mode mode) const;
+    void fillCombos();
+    void giveCurrency();
+    void wire();
+    void openInMode();
+    void InitPico();
+
+    void startNewProduct();
+    void AfficherArticle();
+    void placeCombos();
+    void AfficherPrix();
+    void AfficherDocs();
+    void Initialiser();
+
+    void chooseCategory();
+    void chooseFamily();
+    void chooseTvaV();
+    bool isComplete();
+    void save();
+    Result AjouterArticle();
+    void saved();
+    void editAttachments(bool photos);
+    void addDropped(bool photos, const QStringList &paths);
+    void showPicture();
+    void report(const std::vector<Result> &failures, const QString &title) const;
+    QString message(const QString &key) const;
+    QString today() const;
+
+    std::unique_ptr<Ui::frmArticle> m_ui;
+    std::unique_ptr<PriceBlock> m_prices;
+    std::unique_ptr<BandGrid> m_bands;
+    std::unique_ptr<AttributeGrid> m_attributes;
+    std::unique_ptr<KeyCombo> m_category;
+    std::unique_ptr<KeyCombo> m_family;
+    std::unique_ptr<KeyCombo> m_supplier;
+    std::unique_ptr<KeyCombo> m_tvaA;
+    std::unique_ptr<KeyCombo> m_tvaV;
+    BarcodeReader *m_reader;
+    QString m_sCategorie; ///< the shown names, written beside the keys
+    QString m_sFamille;
+};

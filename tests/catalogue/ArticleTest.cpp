@@ -1,0 +1,413 @@
+#include "catalogue/frmArticle.h"
+#include "platform/NumberBox.h"
+#include "platform/Spread.h"
+#include "tests/desk/Desk.h"
+#include "tests/support/Suite.h"
+
+#include <QCheckBox>
+#include <QComboBox>
+#include <QLabel>
+#include <QListWidget>
+#include <QPlainTextEdit>
+#include <QPushButton>
+#include <QTabWidget>
+#include <QTest>
+#include <QToolButton>
+
+using namespace Qt::StringLiterals;
+
+namespace {
+
+const QStringList lineBoxes = {u"txtNumSerie"_s, u"txtEan"_s,       u"txtMarque"_s,    u"txtModele"_s,
+                               u"txtRefFour"_s,  u"txtCondition"_s, u"txtDimension"_s, u"txtLibre1"_s,
+                               u"txtLibre2"_s,   u"txtLibre3"_s,    u"txtCompteA"_s,   u"txtCompteV"_s};
+
+/// A product screen over the sample shop.
+class ArticleDesk : public Desk {
+public:
+    ArticleDesk() { openSample(); }
+    std::unique_ptr<frmArticle> open(int mode, int idProduit = 0)
+    {
+        session.giModeProduit = mode;
+        session.glIdProduit = idProduit;
+        auto window = std::make_unique<frmArticle>(session, nullptr);
+        window->show();
+        return window;
+    }
+    QString column(const QString &name, int idProduit)
+    {
+        return value(u"SELECT "_s + name + u" FROM T_PRODUIT WHERE idProduit = "_s + QString::number(idProduit));
+    }
+};
+
+/// Typed into the box and left with Enter.
+void enter(QWidget &window, const char *name, const char *number)
+{
+    auto &box = control<NumberBox>(window, name);
+    box.setFocus();
+    box.selectAll();
+    QTest::keyClicks(&box, QString::fromLatin1(number));
+    QTest::keyClick(&box, Qt::Key_Return);
+}
+
+QString shown(QWidget &window, const char *name)
+{
+    return control<QLineEdit>(window, name).text();
+}
+
+void chooseGroup(QWidget &window)
+{
+    control<QComboBox>(window, "cbCategory").setCurrentIndex(1);
+    control<QComboBox>(window, "cbFamille").setCurrentIndex(0);
+}
+
+} // namespace
+
+class ArticleTest : public QObject {
+    Q_OBJECT
+private Q_SLOTS:
+    void everyFieldComesBack();
+    void newProductsFollowOneAnother();
+    void whatIsMissingIsAsked();
+    void pricesReactToTypingAndFocus();
+    void consultModeWritesTheRowsButNotTheProduct();
+    void nullsLeaveTheBoxes();
+    void failuresKeepWhatWasTyped();
+    void bandsOpenAndFollow();
+    void attributesBelongToTheFamily();
+    void oddEntries();
+    void counterStartsOver();
+};
+
+void ArticleTest::everyFieldComesBack()
+{
+    ArticleDesk desk;
+    {
+        auto window = desk.open(2, 5);
+        for (const QString &name : lineBoxes)
+            window->findChild<QLineEdit *>(name)->setText(name + u" l'été \"x\" ; --"_s);
+        for (int i = 0; i < 6; ++i) {
+            window->findChild<QLineEdit *>(u"txtNom_%1"_s.arg(i))->setText(u"L'objet %1 où"_s.arg(i));
+            window->findChild<QPlainTextEdit *>(u"txtObservation_%1"_s.arg(i))->setPlainText(u"D'ici\n%1"_s.arg(i));
+        }
+        enter(*window, "txtGarantie", "24");
+        enter(*window, "txtPoids", "1,5");
+        enter(*window, "txtSeuil", "3");
+        enter(*window, "txtQte", "7");
+        control<QComboBox>(*window, "cbUnite").setCurrentIndex(2);
+        control<QComboBox>(*window, "cbFournisseur").setCurrentIndex(1);
+        control<QCheckBox>(*window, "chControlStock").setChecked(true);
+        control<QCheckBox>(*window, "chPrix").setChecked(true);
+        enter(*window, "txtPrixAchat", "10");
+        control<QPushButton>(*window, "cmdValider0").click();
+        QVERIFY(!control<QPushButton>(*window, "cmdValider0").isEnabled());
+        QVERIFY(control<QPushButton>(*window, "cmdEtiquette").isEnabled());
+    }
+    QCOMPARE(desk.messages.boxes, QStringList());
+    QVERIFY(desk.session.gbRafraichirListe);
+    QCOMPARE(desk.column(u"sNomDE"_s, 5), u"L'objet 3 où"_s);
+    QCOMPARE(desk.column(u"sObservationES"_s, 5), u"D'ici\r\n5"_s);
+    QCOMPARE(desk.column(u"nQuantity"_s, 5), u"7"_s);
+    QCOMPARE(desk.column(u"bPrixQte"_s, 5), u"1"_s);
+    QCOMPARE(desk.column(u"dDate_modification"_s, 5), desk.clock.today().toString(u"dd/MM/yyyy"_s));
+    auto again = desk.open(2, 5);
+    for (const QString &name : lineBoxes)
+        QCOMPARE(again->findChild<QLineEdit *>(name)->text(), QString(name + u" l'été \"x\" ; --"_s));
+    QCOMPARE(shown(*again, "txtNom_5"), u"L'objet 5 où"_s);
+    QCOMPARE(control<QPlainTextEdit>(*again, "txtObservation_1").toPlainText(), u"D'ici\n1"_s);
+    QCOMPARE(shown(*again, "txtGarantie"), u"24"_s);
+    QCOMPARE(shown(*again, "txtPoids"), u"1.5"_s);
+    QCOMPARE(shown(*again, "txtPrixAchat"), u"10.00"_s);
+    QCOMPARE(control<QComboBox>(*again, "cbUnite").currentIndex(), 2);
+    QCOMPARE(control<QComboBox>(*again, "cbFournisseur").currentIndex(), 1);
+    QVERIFY(control<QCheckBox>(*again, "chControlStock").isChecked());
+    QVERIFY(control<Spread>(*again, "fpSpread2").isVisibleTo(again.get()));
+    QCOMPARE(control<QTabWidget>(*again, "SSTab1").currentIndex(), 0);
+}
+
+void ArticleTest::newProductsFollowOneAnother()
+{
+    ArticleDesk desk;
+    const int last = desk.value(u"SELECT Ref_Produit FROM PARAM"_s).toInt();
+    auto window = desk.open(1);
+    QCOMPARE(desk.session.glIdProduit, last + 1);
+    const QString reference = shown(*window, "txtRef_Article");
+    QCOMPARE(reference,
+             QString(u"%1"_s.arg(last + 1, 5, 10, QLatin1Char('0')) + u'/' + desk.clock.today().toString(u"yyyyMM"_s)));
+    QVERIFY(!control<QPushButton>(*window, "cmdEtiquette").isEnabled());
+    QVERIFY(!control<QPushButton>(*window, "cmdValider0").isEnabled());
+    QCOMPARE(shown(*window, "txtSeuil") + shown(*window, "txtQte"), u"11"_s);
+    chooseGroup(*window);
+    control<QComboBox>(*window, "cbFournisseur").setCurrentIndex(2);
+    control<QLineEdit>(*window, "txtNom_0").setText(u"  Premier  "_s);
+    control<QToolButton>(*window, "cmdTrans").click();
+    enter(*window, "txtPrixVente", "12.5");
+    desk.messages.answer = false;
+    control<QPushButton>(*window, "cmdValider0").click();
+    QCOMPARE(desk.messages.boxes.size(), 1); // the question for labels
+    QCOMPARE(desk.column(u"sNomFR"_s, last + 1), u"Premier"_s);
+    QCOMPARE(desk.column(u"sPrixVenteTTC"_s, last + 1), u"12.50"_s);
+    QCOMPARE(desk.column(u"sEan"_s, last + 1).size(), 13);
+    QCOMPARE(desk.column(u"sCategorie"_s, last + 1), control<QComboBox>(*window, "cbCategory").currentText());
+    // The next one keeps what was chosen and nothing of what was typed.
+    QCOMPARE(desk.session.glIdProduit, last + 2);
+    QVERIFY(shown(*window, "txtRef_Article") != reference);
+    QCOMPARE(shown(*window, "txtNom_0") + shown(*window, "txtPrixVente") + shown(*window, "txtEan"), QString());
+    QCOMPARE(shown(*window, "txtSeuil") + shown(*window, "txtQte"), u"11"_s);
+    QCOMPARE(control<QComboBox>(*window, "cbFournisseur").currentIndex(), 2);
+    QVERIFY(!control<QPushButton>(*window, "cmdValider0").isEnabled());
+    QVERIFY(desk.session.gbRafraichirListe);
+    control<QLineEdit>(*window, "txtNom_0").setText(u"Second"_s);
+    control<QPushButton>(*window, "cmdValider0").click();
+    QCOMPARE(desk.column(u"idFournisseur"_s, last + 2), desk.column(u"idFournisseur"_s, last + 1));
+    QCOMPARE(desk.column(u"sPrixVenteTTC"_s, last + 2), QString());
+}
+
+void ArticleTest::whatIsMissingIsAsked()
+{
+    ArticleDesk desk;
+    auto window = desk.open(1);
+    const auto refused = [&](const QString &key, const char *control0) {
+        desk.messages.boxes.clear();
+        control<QPushButton>(*window, "cmdValider0").click();
+        QCOMPARE(desk.messages.boxes,
+                 QStringList{u"ZELVANTOR|"_s + desk.session.localisation.Traduire(u"MESSAGES"_s, key)});
+        QVERIFY(control<QWidget>(*window, control0).hasFocus());
+    };
+    QVERIFY(QTest::qWaitForWindowActive(window.get()));
+    control<QLineEdit>(*window, "txtNom_1").setText(u"Only English"_s);
+    refused(u"114"_s, "cbFamille");
+    chooseGroup(*window);
+    control<QLineEdit>(*window, "txtRef_Article").setText(u"  "_s);
+    refused(u"117"_s, "txtRef_Article");
+    control<QLineEdit>(*window, "txtRef_Article").setText(u"X"_s);
+    refused(u"118"_s, "txtNom_0");
+    QCOMPARE(desk.value(u"SELECT count(*) FROM T_PRODUIT WHERE sRef = 'X'"_s), u"0"_s);
+}
+
+void ArticleTest::pricesReactToTypingAndFocus()
+{
+    ArticleDesk desk;
+    desk.sql(u"UPDATE T_PRODUIT SET sPrixAchatHT = '100', sPrixAchatTTC = '77', sPrixRevient = '78', sFrais = '5', "
+             "sMarge = '9', sPrixVenteTTC = '50', sPrixVenteHT = '45', nQuantity = 3, idTVAA = 6, idTVAV = 6 "
+             "WHERE idProduit = 5"_s);
+    auto window = desk.open(2, 5);
+    QVERIFY(QTest::qWaitForWindowActive(window.get()));
+    QCOMPARE(shown(*window, "txtPrixAchatTTC") + u' ' + shown(*window, "txtPrixRevient"), u"121.00 126.00"_s);
+    QCOMPARE(shown(*window, "txtMarge") + u' ' + shown(*window, "txtPrixVente"), u"9.00 50.00"_s);
+    enter(*window, "txtMarge", "2");
+    QCOMPARE(shown(*window, "txtPrixVente") + u' ' + shown(*window, "txtPrixVenteHT"), u"252.00 208.26"_s);
+    // Whichever way the purchase price is left, the sale price comes next.
+    control<NumberBox>(*window, "txtPrixAchat").setFocus();
+    QTest::keyClick(&control<NumberBox>(*window, "txtPrixAchat"), Qt::Key_Backtab);
+    QTRY_VERIFY(control<NumberBox>(*window, "txtPrixVente").hasFocus());
+    // A value with more decimals than its box is not taken for an entry when the box is only passed through.
+    control<NumberBox>(*window, "txtPrixVenteHT").setFocus();
+    control<NumberBox>(*window, "txtFrais").setFocus();
+    QCOMPARE(shown(*window, "txtPrixVente"), u"252.00"_s);
+    control<QComboBox>(*window, "cbTvaV").setCurrentIndex(control<QComboBox>(*window, "cbTvaV").findText(u"0"_s));
+    QCOMPARE(shown(*window, "txtPrixVenteHT"), u"252.00"_s);
+    // An entry that is still open counts when a key saves.
+    auto &costs = control<NumberBox>(*window, "txtFrais");
+    costs.selectAll();
+    QTest::keyClicks(&costs, u"9"_s);
+    control<QLineEdit>(*window, "txtNom_0").setText(u"Nom"_s);
+    control<QPushButton>(*window, "cmdValider0").click();
+    QCOMPARE(desk.column(u"sFrais"_s, 5) + u' ' + desk.column(u"sPrixRevient"_s, 5), u"9.00 130.00"_s);
+}
+
+void ArticleTest::consultModeWritesTheRowsButNotTheProduct()
+{
+    ArticleDesk desk;
+    const int product = desk.value(u"SELECT idRef_Produit FROM REF_EXTENSION WHERE sValeur <> ''"_s).toInt();
+    const QString ofProduct = u" FROM REF_EXTENSION WHERE idRef_Produit = "_s + QString::number(product);
+    QVERIFY(desk.value(u"SELECT count(*)"_s + ofProduct) != u"0"_s);
+    auto window = desk.open(3, product);
+    QVERIFY(control<QPushButton>(*window, "cmdValider0").isEnabled()); // the loaded name has enabled it again
+    const auto &attributes = control<Spread>(*window, "fpSpread1");
+    QVERIFY(attributes.MaxRows() > 0);
+    for (int row = 1; row <= attributes.MaxRows(); ++row)
+        QCOMPARE(attributes.text(2, row), QString());
+    const QString before = desk.column(u"sNomFR"_s, product);
+    control<QLineEdit>(*window, "txtNom_0").setText(u"Autre"_s);
+    control<QPushButton>(*window, "cmdValider0").click();
+    QCOMPARE(desk.column(u"sNomFR"_s, product), before);
+    QCOMPARE(desk.value(u"SELECT count(*)"_s + ofProduct + u" AND sValeur <> ''"_s), u"0"_s);
+}
+
+void ArticleTest::nullsLeaveTheBoxes()
+{
+    ArticleDesk desk;
+    desk.sql(u"UPDATE T_PRODUIT SET nQuantity = 0, sSeuil = NULL, sMarque = NULL, idFournisseur = NULL, "
+             "sPrixVenteTTC = NULL, idUnite = NULL WHERE idProduit = 5"_s);
+    desk.session.glIdFournisseur = 2; // of the product that was open before
+    auto window = desk.open(2, 5);
+    QCOMPARE(shown(*window, "txtQte") + shown(*window, "txtSeuil"), u"11"_s);
+    QCOMPARE(shown(*window, "txtMarque") + shown(*window, "txtPrixVente"), QString());
+    QCOMPARE(control<QComboBox>(*window, "cbFournisseur").currentIndex(), -1);
+    control<QLineEdit>(*window, "txtNom_0").setText(u"Nom"_s);
+    control<QPushButton>(*window, "cmdValider0").click();
+    QCOMPARE(desk.column(u"nQuantity"_s, 5), u"1"_s);
+    QCOMPARE(desk.column(u"idFournisseur"_s, 5), u"0"_s);
+}
+
+void ArticleTest::failuresKeepWhatWasTyped()
+{
+    ArticleDesk desk;
+    auto window = desk.open(2, 5);
+    control<QLineEdit>(*window, "txtNom_0").setText(u"Nouveau nom"_s);
+    Result opened;
+    const auto other = Store::open(desk.session.gsDbPath, opened);
+    QVERIFY(opened && other->execute(u"BEGIN IMMEDIATE"_s));
+    control<QPushButton>(*window, "cmdValider0").click();
+    QCOMPARE(desk.messages.boxes.size(), 1);
+    QVERIFY(desk.messages.boxes.first().startsWith(u"AjouterArticle|5: "_s));
+    QCOMPARE(shown(*window, "txtNom_0"), u"Nouveau nom"_s);
+    QVERIFY(control<QPushButton>(*window, "cmdValider0").isEnabled());
+    QVERIFY(other->execute(u"COMMIT"_s));
+    control<QPushButton>(*window, "cmdValider0").click();
+    QCOMPARE(desk.column(u"sNomFR"_s, 5), u"Nouveau nom"_s);
+    // A key that is taken: the screen stays in its mode, and attributes and prices of the other product stay too.
+    const QString prices = desk.value(u"SELECT count(*) FROM T_PRODUIT_PRIX"_s);
+    desk.messages.boxes.clear();
+    auto next = desk.open(1);
+    chooseGroup(*next);
+    control<QLineEdit>(*next, "txtNom_0").setText(u"Double"_s);
+    desk.session.glIdProduit = 5;
+    control<QPushButton>(*next, "cmdValider0").click();
+    QCOMPARE(desk.messages.boxes.size(), 1);
+    QCOMPARE(shown(*next, "txtNom_0"), u"Double"_s);
+    QCOMPARE(desk.value(u"SELECT count(*) FROM T_PRODUIT_PRIX"_s), prices);
+}
+
+void ArticleTest::bandsOpenAndFollow()
+{
+    ArticleDesk desk;
+    desk.sql(u"DELETE FROM T_PRODUIT_PRIX WHERE idProduit = 5"_s);
+    auto window = desk.open(2, 5);
+    control<QCheckBox>(*window, "chPrix").setChecked(false);
+    control<QCheckBox>(*window, "chPrix").click();
+    auto &grid = control<Spread>(*window, "fpSpread2");
+    QVERIFY(grid.isVisibleTo(window.get()));
+    control<QComboBox>(*window, "cbTvaV").setCurrentIndex(control<QComboBox>(*window, "cbTvaV").findText(u"21"_s));
+    const int position = control<QComboBox>(*window, "cbTvaV").currentIndex();
+    const auto leave = [&](int column, int row, const QString &text) {
+        grid.setActiveCell(column, row);
+        grid.setText(column, row, text);
+        grid.setActiveCell(4, row);
+    };
+    leave(1, 1, u"100"_s);
+    QCOMPARE(grid.text(3, 1), u"121.00"_s);
+    leave(3, 2, u"60.5"_s);
+    QCOMPARE(grid.text(1, 2), u"50.00"_s);
+    grid.setText(4, 1, u"1"_s);
+    grid.setText(5, 1, u"9"_s);
+    QCOMPARE(grid.text(4, 2) + u'-' + grid.text(5, 2), u"10-999999"_s);
+    grid.setText(5, 5, u"50"_s);
+    QCOMPARE(grid.text(4, 6), QString());
+    leave(1, 3, u"10"_s); // no quantities: lost with a box; the others go in
+    grid.setText(4, 3, {});
+    grid.setText(5, 3, {});
+    grid.setText(4, 4, u"7"_s); // no price: left out
+    control<QLineEdit>(*window, "txtNom_0").setText(u"Nom"_s);
+    control<QPushButton>(*window, "cmdValider0").click();
+    QCOMPARE(desk.messages.boxes.size(), 1);
+    QVERIFY(desk.messages.boxes.first().startsWith(u"AjouterPrix|"_s));
+    const auto bands = [&] {
+        return desk.value(u"SELECT group_concat(iQte1 || '-' || iQte2 || ':' || idTva || ':' || sPrixHT || ':' || "
+                          "sPrixTTC, ' ') FROM T_PRODUIT_PRIX WHERE idProduit = 5"_s);
+    };
+    const QString expected = u"1-9:%1:100:121.00 10-999999:%1:50.00:60.5"_s.arg(position);
+    QCOMPARE(bands(), expected);
+    // Without the tick the rows stay.
+    desk.messages.boxes.clear();
+    auto again = desk.open(2, 5);
+    QCOMPARE(control<Spread>(*again, "fpSpread2").cells().choiceIndex(2, 1), position);
+    control<QCheckBox>(*again, "chPrix").click();
+    QVERIFY(!control<Spread>(*again, "fpSpread2").isVisibleTo(again.get()));
+    control<QPushButton>(*again, "cmdValider0").click();
+    QCOMPARE(bands(), expected);
+    QCOMPARE(desk.column(u"bPrixQte"_s, 5), u"0"_s);
+}
+
+void ArticleTest::attributesBelongToTheFamily()
+{
+    ArticleDesk desk;
+    desk.sql(u"INSERT INTO REF_CATEGORIE_P VALUES (9001, 1, 'G', 'Essai', 1, NULL, NULL)"_s);
+    desk.sql(u"INSERT INTO REF_CATEGORIE_P VALUES (9002, 9001, 'F', 'Avec', 2, NULL, NULL)"_s);
+    desk.sql(u"INSERT INTO REF_CATEGORIE_P VALUES (9003, 9001, 'F', 'Sans', 2, NULL, NULL)"_s);
+    desk.sql(u"INSERT INTO REF_LISTE VALUES (9004, 1, 'L', 'Couleurs'), (9005, 9004, 'L', 'Rouge'), "
+             "(9006, 9004, 'L', 'Bleu'), (9007, 1, 'L', 'Vide')"_s);
+    desk.sql(u"INSERT INTO REF_CATEGORIE_P VALUES (9011, 9002, 'A', 'Couleur', 3, 'Couleurs', 9004), "
+             "(9012, 9002, 'A', 'Matière', 3, 'Vide', 9007), (9013, 9002, 'A', NULL, 3, NULL, NULL)"_s);
+    auto window = desk.open(2, 5);
+    auto &category = control<QComboBox>(*window, "cbCategory");
+    auto &family = control<QComboBox>(*window, "cbFamille");
+    category.setCurrentIndex(category.findText(u"Essai"_s));
+    QCOMPARE(family.currentIndex(), -1);
+    family.setCurrentIndex(0);
+    auto &grid = control<Spread>(*window, "fpSpread1");
+    QCOMPARE(grid.MaxRows(), 3);
+    QVERIFY(grid.isColumnHidden(3) && grid.isColumnHidden(4));
+    QCOMPARE(grid.cells().cellType(2, 1), SpreadModel::CellType::Combo);
+    QCOMPARE(grid.cells().choices(2, 1), (QStringList{u"Rouge"_s, u"Bleu"_s}));
+    QCOMPARE(grid.cells().cellType(2, 2), SpreadModel::CellType::Text);
+    grid.setText(2, 1, u"Vert d'eau"_s);
+    control<QPushButton>(*window, "cmdValider0").click();
+    const QString count = u"SELECT count(*) FROM REF_EXTENSION WHERE idRef_Produit = 5"_s;
+    QCOMPARE(desk.value(count), u"3"_s);
+    QCOMPARE(desk.value(u"SELECT sValeur FROM REF_EXTENSION WHERE idRef_Categorie = 9011"_s), u"Vert d'eau"_s);
+    auto again = desk.open(2, 5);
+    QCOMPARE(control<Spread>(*again, "fpSpread1").text(2, 1), u"Vert d'eau"_s);
+    control<QComboBox>(*again, "cbFamille").setCurrentIndex(1);
+    QCOMPARE(control<Spread>(*again, "fpSpread1").MaxRows(), 0);
+    control<QPushButton>(*again, "cmdValider0").click();
+    QCOMPARE(desk.value(count), u"0"_s);
+}
+
+void ArticleTest::oddEntries()
+{
+    ArticleDesk desk;
+    auto window = desk.open(2, 5);
+    auto &brand = control<QLineEdit>(*window, "txtMarque");
+    brand.clear();
+    QTest::keyClicks(&brand, u"ab"_s);
+    brand.insert(u"éz"_s);
+    QTest::keyClicks(&brand, u"1"_s);
+    QCOMPARE(brand.text(), u"ABéZ1"_s);
+    auto &price = control<NumberBox>(*window, "txtPrixVente");
+    price.setFocus();
+    price.clear();
+    QTest::keyClicks(&price, u"-1x2 345,678"_s);
+    QTest::keyClick(&price, Qt::Key_Return);
+    QCOMPARE(price.text(), u"12345.67"_s);
+    price.clear();
+    QTest::keyClick(&price, Qt::Key_Return);
+    QVERIFY(!price.number());
+    const QString script = u"名前 اسم 🧺\tתו\r\nsuite"_s;
+    control<QLineEdit>(*window, "txtNom_0").setText(script);
+    control<QLineEdit>(*window, "txtLibre1").setText(QString(30000, u'x'));
+    control<QPushButton>(*window, "cmdValider0").click();
+    QCOMPARE(desk.messages.boxes, QStringList());
+    QCOMPARE(desk.column(u"sNomFR"_s, 5), u"名前 اسم 🧺 תו suite"_s);
+    QCOMPARE(desk.column(u"length(sLibre1)"_s, 5), u"30000"_s);
+    QCOMPARE(desk.column(u"sPrixVenteTTC"_s, 5), QString());
+}
+
+void ArticleTest::counterStartsOver()
+{
+    ArticleDesk desk;
+    desk.sql(u"UPDATE PARAM SET Ref_Produit = 32766"_s);
+    auto window = desk.open(1);
+    QVERIFY(shown(*window, "txtRef_Article").startsWith(u"32767/"_s));
+    auto wrapped = desk.open(1);
+    QCOMPARE(desk.messages.boxes.size(), 1);
+    QVERIFY(desk.messages.boxes.first().startsWith(u"ChercherNumProduit|6: "_s));
+    QVERIFY(shown(*wrapped, "txtRef_Article").startsWith(u"00001/"_s));
+    QCOMPARE(desk.value(u"SELECT Ref_Produit FROM PARAM"_s), u"1"_s);
+    desk.sql(u"UPDATE PARAM SET Ref_Produit = NULL"_s);
+    QVERIFY(shown(*desk.open(1), "txtRef_Article").startsWith(u"00001/"_s));
+}
+
+ZELVANTOR_SUITE(ArticleTest)
+#include "ArticleTest.moc"
