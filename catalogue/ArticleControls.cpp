@@ -69,6 +69,13 @@ QString descriptionColumn(const QWidget &screen, int i)
     return u"sObservation"_s + find<QTabWidget>(screen, u"SSTab1"_s).tabText(i);
 }
 
+/// A text longer than its box shows its beginning.
+void showFromStart(QLineEdit &box, const QString &text)
+{
+    box.setText(text);
+    box.setCursorPosition(0);
+}
+
 /// A pasted line break or tab has no place in a box of one line.
 QString oneLine(QString text)
 {
@@ -82,7 +89,7 @@ void ArticleControls::show(const Article &article, QWidget &screen)
 {
     for (const Pair &pair : lines())
         if (article.has(pair.column))
-            find<QLineEdit>(screen, pair.control).setText(article.text(pair.column));
+            showFromStart(find<QLineEdit>(screen, pair.control), article.text(pair.column));
     for (const Pair &pair : numbers()) {
         auto &box = find<NumberBox>(screen, pair.control);
         if (article.has(pair.column))
@@ -90,7 +97,7 @@ void ArticleControls::show(const Article &article, QWidget &screen)
     }
     for (int i = 0; i < Article::languages().size(); ++i) {
         if (const QString column = nameColumn(screen, i); article.has(column))
-            find<QLineEdit>(screen, u"txtNom_%1"_s.arg(i)).setText(article.text(column));
+            showFromStart(find<QLineEdit>(screen, u"txtNom_%1"_s.arg(i)), article.text(column));
         if (const QString column = descriptionColumn(screen, i); article.has(column))
             find<QPlainTextEdit>(screen, u"txtObservation_%1"_s.arg(i)).setPlainText(article.text(column));
     }

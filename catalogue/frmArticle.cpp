@@ -28,6 +28,7 @@ frmArticle::frmArticle(Session &screenSession, QWidget *parent)
     : Screen(screenSession, parent), m_ui(std::make_unique<Ui::frmArticle>()), m_reader(new BarcodeReader(this))
 {
     m_ui->setupUi(this);
+    m_ui->spArticle->setSizes({560, 420, 310});
     session().gbChoixFichier = false;
     m_prices = std::make_unique<PriceBlock>(*this);
     m_bands = std::make_unique<BandGrid>(*m_ui->fpSpread2);

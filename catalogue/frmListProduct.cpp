@@ -23,7 +23,7 @@ enum Column { IdProduit = 1, Reference, Last = 15 };
 enum Mode { New = 1, Modify, Consult };
 
 constexpr int hiddenColumns[] = {IdProduit, 8, 11, 12, 14, 15};
-const QList<int> firstWidths = {60, 110, 260, 70, 100, 130, 130, 80, 110, 110, 90, 70, 90, 90, 90};
+const QList<int> firstWidths = {60, 105, 235, 65, 95, 125, 105, 80, 105, 95, 80, 70, 80, 90, 90};
 const QStringList headings = {QString(),       u"Référence"_s, u"Nom"_s,         u"Quantité"_s,  u"Creation Date"_s,
                               u"Famille"_s,    u"Catégorie"_s, u"Fournisseur"_s, u"Marque"_s,    u"Modèle"_s,
                               u"Prix Achat"_s, u"Marge"_s,     u"Prix vente"_s,  u"Sale date"_s, u"Buy date"_s};
@@ -51,6 +51,8 @@ frmListProduct::frmListProduct(Session &session, QWidget *parent)
     m_supplier = std::make_unique<KeyCombo>(*m_ui->cbFournisseur, [] {});
     m_category->RemplirCB(m_session, u"REF_CATEGORIE_P"_s);
     m_ui->cmdAjouter->setEnabled(mayUse(*m_ui->cmdAjouter));
+    for (const int column : {4, 11, 12, 13})
+        grid.cells().setNumberColumn(column, 2);
     grid.setOperationMode(Spread::OperationMode::SingleSelect);
     grid.setBandColors(QColor(0, 0, 0), QColor(204, 253, 245));
     grid.setColumnWidths(firstWidths);

@@ -41,6 +41,7 @@ Spread::Spread(QWidget *parent) : QTableView(parent), m_cells(new SpreadModel(th
     horizontalHeader()->setStretchLastSection(true);
     horizontalHeader()->setDefaultAlignment(Qt::AlignLeft | Qt::AlignVCenter);
     verticalHeader()->hide();
+    verticalHeader()->setDefaultSectionSize(fontMetrics().height() + 10);
     connect(this, &QTableView::clicked, this,
             [this](const QModelIndex &index) { Q_EMIT cellClicked(index.column() + 1, index.row() + 1); });
 }

@@ -1,7 +1,9 @@
 // Opens every window on the sample shop and saves its picture: make_pictures FOLDER [LANGUAGE]
 // The user guide and the look over all windows use them.
 #include "app/DeskScreens.h"
+#include "catalogue/frmArticle.h"
 #include "catalogue/frmDlgOpenDoc.h"
+#include "catalogue/frmListProduct.h"
 #include "reference/frmTrad.h"
 #include "shell/ApplicationFolder.h"
 #include "shell/Skin.h"
@@ -17,8 +19,10 @@
 
 #include "platform/Desktop.h"
 #include "platform/Messages.h"
+#include "platform/Spread.h"
 
 #include <QApplication>
+#include <QCheckBox>
 #include <QComboBox>
 #include <QDir>
 #include <QFile>
@@ -119,6 +123,21 @@ void saveWindows(Session &session, const QString &folder)
     }
 }
 
+/// The list with a row chosen, and the screen of its product with a picture chosen.
+void saveProducts(Session &session, const QString &folder)
+{
+    {
+        frmListProduct window(session, nullptr);
+        window.findChild<Spread *>(u"fpSpread1"_s)->setActiveCell(2, 3);
+        save(window, folder, u"frmListProduct"_s);
+    }
+    session.giModeProduit = 2;
+    frmArticle window(session, nullptr);
+    window.findChild<QListWidget *>(u"lstPicture"_s)->setCurrentRow(0);
+    window.findChild<QCheckBox *>(u"chPrix"_s)->setChecked(true);
+    save(window, folder, u"frmArticle"_s);
+}
+
 } // namespace
 
 int main(int argc, char *argv[])
@@ -159,6 +178,7 @@ int main(int argc, char *argv[])
 
     saveStart(session, folder);
     saveWindows(session, folder);
+    saveProducts(session, folder);
     saveCatalogue(session, folder);
     return 0;
 }
