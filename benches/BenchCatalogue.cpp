@@ -39,13 +39,21 @@ QString description(int product)
 void addTree(Store &store, int products)
 {
     const int subGroups = (products + productsOfSubGroup - 1) / productsOfSubGroup;
+    const auto add = [&store](int key, int parent, const QString &name, int level) {
+        demand(store.execute(u"INSERT INTO REF_CATEGORIE_P (idRef_Categorie, idRef_parent, sLibelle, iNiveau) VALUES "
+                             "(%1, %2, '%3', %4)"_s.arg(key)
+                                 .arg(parent)
+                                 .arg(name)
+                                 .arg(level)),
+               u"tree"_s);
+    };
+    for (int group = 0; group * subGroupsOfGroup < subGroups; ++group)
+        add(group + 2, 1, u"Groupe %1"_s.arg(group + 2), 1);
+    for (int s = 0; s < subGroups; ++s)
+        add(1000 + s, s / subGroupsOfGroup + 2, u"Sous groupe %1"_s.arg(1000 + s), 2);
     for (int s = 0; s < subGroups; ++s)
         for (int a = 0; a < attributesOfSubGroup; ++a)
-            demand(store.execute(u"INSERT INTO REF_CATEGORIE_P (idRef_Categorie, idRef_parent, sLibelle, iNiveau) "
-                                 "VALUES (%1, %2, 'Caractéristique %3', 3)"_s.arg(1000000 + s * 10 + a)
-                                     .arg(1000 + s)
-                                     .arg(a + 1)),
-                   u"tree"_s);
+            add(1000000 + s * 10 + a, 1000 + s, u"Caractéristique %1"_s.arg(a + 1), 3);
 }
 
 void addProduct(Store &store, int p)

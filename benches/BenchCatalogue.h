@@ -10,4 +10,4 @@ namespace BenchCatalogue {
 /// failure.
 void make(const QString &folder, int products, int pictureSize = 0);
 
-}
+} // namespace BenchCatalogue

@@ -19,4 +19,4 @@ size_t generate(const std::string &store, const std::string &out, const Pieces &
 /// Writes the bytes of every file of `shop` again into `out`; returns the seconds that the writing alone took.
 double copyBytes(const std::string &shop, const std::string &out);
 
-}
+} // namespace Floor

@@ -8,7 +8,7 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
-enum Column { Quantity = 3, PurchasePrice = 10, SalePrice = 12 };
+enum Column { Quantity = 3, PurchasePrice = 10, SalePrice = 12, Read = 13 };
 
 } // namespace
 
@@ -53,8 +53,9 @@ ProductSearch::Found ProductSearch::search(Connection &gCnn, const Filters &filt
     Reader rows = gCnn.read(statement(filters));
     while (rows.next()) {
         const size_t first = found.cells.size();
-        for (int column = 0; column < columns; ++column)
-            found.cells.push_back(rows.text(column));
+        found.cells.resize(first + columns);
+        for (size_t column = 0; column < Read; ++column)
+            found.cells[first + column] = rows.text(int(column));
         if (!rows.isNull(Quantity))
             quantity = numbers.toNumber(found.cells[first + Quantity]);
         const auto add = [&](float &total, Column price) {

@@ -18,7 +18,7 @@ struct Filters {
     std::optional<int> idFournisseur;
 };
 
-constexpr int columns = 13; ///< of a row that are shown, in the order of the grid
+constexpr int columns = 15; ///< of a row, those of the grid; nothing fills the last two
 struct Found {
     std::vector<QString> cells; ///< row after row
     float purchase = 0;         ///< quantity times price with tax over all rows, in single precision

@@ -135,8 +135,8 @@ void frmListProduct::Rechercher()
     QApplication::setOverrideCursor(Qt::WaitCursor);
     m_ui->fpSpread1->clear();
     enableRowCommands(false);
-    const ProductSearch::Found found = ProductSearch::search(m_session.gCnn, filters());
-    fillGrid(found);
+    ProductSearch::Found found = ProductSearch::search(m_session.gCnn, filters());
+    m_ui->fpSpread1->cells().fill(std::move(found.cells));
     m_ui->txtAchat->setText(ProductSearch::totalText(found.purchase));
     m_ui->txtVente->setText(ProductSearch::totalText(found.sale));
     const QString widths = m_session.setting(widthsKey);
@@ -145,17 +145,6 @@ void frmListProduct::Rechercher()
     QApplication::restoreOverrideCursor();
     if (!found.result)
         report({found.result}, u"Rechercher"_s);
-}
-
-void frmListProduct::fillGrid(const ProductSearch::Found &found)
-{
-    SpreadModel &cells = m_ui->fpSpread1->cells();
-    cells.beginFill(found.rows());
-    size_t cell = 0;
-    for (int row = 1; row <= found.rows(); ++row)
-        for (int column = 1; column <= ProductSearch::columns; ++column)
-            cells.setText(column, row, found.cells[cell++]);
-    cells.endFill();
 }
 
 void frmListProduct::chooseRow(int row)

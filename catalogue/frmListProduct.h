@@ -31,7 +31,6 @@ private:
     void wire();
     void wireKeys();
     ProductSearch::Filters filters() const;
-    void fillGrid(const ProductSearch::Found &found);
     void chooseRow(int row);
     void enableRowCommands(bool enabled);
     void returnTo(int idProduit);

@@ -103,19 +103,13 @@ void SpreadModel::resize(int rows, int columns)
     endResetModel();
 }
 
-void SpreadModel::beginFill(int rows)
+void SpreadModel::fill(std::vector<QString> cells)
 {
     beginResetModel();
     forgetCells();
-    m_texts.clear();
-    m_rows = rows;
-    m_texts.resize(size_t(rows) * size_t(m_columns));
-    m_filling = true;
-}
-
-void SpreadModel::endFill()
-{
-    m_filling = false;
+    m_texts = std::move(cells);
+    m_rows = m_columns == 0 ? 0 : int(m_texts.size()) / m_columns;
+    m_texts.resize(size_t(m_rows) * size_t(m_columns));
     endResetModel();
 }
 
@@ -144,9 +138,7 @@ QString SpreadModel::text(int column, int row) const
 
 void SpreadModel::setText(int column, int row, QString text)
 {
-    if (m_filling && row > 0 && m_columnChoices.isEmpty()) {
-        fillText(column, row, text);
-    } else if (row == 0 && column >= 1 && column <= m_columns) {
+    if (row == 0 && column >= 1 && column <= m_columns) {
         m_headings[column - 1] = std::move(text);
         Q_EMIT headerDataChanged(Qt::Horizontal, column - 1, column - 1);
     } else if (m_columnChoices.contains(column)) {
@@ -158,24 +150,11 @@ void SpreadModel::setText(int column, int row, QString text)
 
 void SpreadModel::store(int column, int row, QString &stored)
 {
-    if (m_filling) {
-        fillText(column, row, stored);
-    } else if (isInside(column, row) && m_texts[size_t(at(column, row))] != stored) {
+    if (isInside(column, row) && m_texts[size_t(at(column, row))] != stored) {
         m_texts[size_t(at(column, row))] = std::move(stored);
         announce(column, row);
         Q_EMIT cellChanged(column, row);
     }
-}
-
-void SpreadModel::fillText(int column, int row, QString &text)
-{
-    if (column < 1 || column > m_columns || row < 1)
-        return;
-    if (row > m_rows) {
-        m_rows = row;
-        m_texts.resize(size_t(row) * size_t(m_columns));
-    }
-    m_texts[size_t(at(column, row))].swap(text);
 }
 
 SpreadModel::CellType SpreadModel::cellType(int column, int row) const
@@ -259,8 +238,6 @@ void SpreadModel::setBandColors(const QColor &foreground, const QColor &backgrou
 
 void SpreadModel::announce(int column, int row)
 {
-    if (m_filling)
-        return;
     const QModelIndex cell = index(row - 1, column - 1);
     Q_EMIT dataChanged(cell, cell);
 }

@@ -25,10 +25,9 @@ public:
     void resize(int rows, int columns);
     /// No rows any more; headings and types of columns stay.
     void clear() { resize(0, m_columns); }
-    /// Takes all rows away and lets `setText` fill new ones without telling anybody; a text below the last row adds
-    /// the rows up to it. Everything shows at once with `endFill`.
-    void beginFill(int rows = 0);
-    void endFill();
+    /// Puts these cells, row after row, in the place of all rows, without a word about each of them. Not for grids
+    /// with list columns, whose cells hold positions.
+    void fill(std::vector<QString> cells);
 
     QString text(int column, int row) const;
     void setText(int column, int row, QString text);
@@ -62,14 +61,12 @@ private:
     qint64 at(int column, int row) const { return qint64(row - 1) * m_columns + (column - 1); }
     bool isInside(int column, int row) const;
     // Both take the text over; a full list passes here half a million times.
-    void fillText(int column, int row, QString &text);
     void store(int column, int row, QString &stored);
     void announce(int column, int row);
     void forgetCells();
 
     int m_rows = 0;
     int m_columns = 0;
-    bool m_filling = false;
     std::vector<QString> m_texts; ///< of a list cell the position
     QStringList m_headings;
     QHash<int, CellType> m_columnTypes;

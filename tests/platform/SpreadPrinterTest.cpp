@@ -27,13 +27,13 @@ void fill(Spread &grid, int rows)
     const QStringList headings = {u"Key"_s, u"Reference"_s, u"Name"_s};
     for (int column = 1; column <= 3; ++column)
         grid.setText(column, 0, headings[column - 1]);
-    grid.cells().beginFill(rows);
+    std::vector<QString> cells;
     for (int row = 1; row <= rows; ++row) {
-        grid.setText(1, row, u"secret%1"_s.arg(row));
-        grid.setText(2, row, u"R%1"_s.arg(row));
-        grid.setText(3, row, row == 2 ? u"long "_s.repeated(200) : u"Tasse à thé %1"_s.arg(row));
+        cells.push_back(u"secret%1"_s.arg(row));
+        cells.push_back(u"R%1"_s.arg(row));
+        cells.push_back(row == 2 ? u"long "_s.repeated(200) : u"Tasse à thé %1"_s.arg(row));
     }
-    grid.cells().endFill();
+    grid.cells().fill(std::move(cells));
 }
 
 } // namespace
