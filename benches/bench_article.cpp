@@ -18,11 +18,8 @@ constexpr int product = 15000;
 
 QString updateStatement(DeskBench &desk)
 {
-    Article article;
-    Reader row = desk.session.gCnn.read(Article::selectStatement(product));
-    if (row.next())
-        for (int column = 0; column < Article::columns().size(); ++column)
-            article.setText(Article::columns()[column], row.text(column));
+    Result read;
+    const Article article = Article::read(desk.session.gCnn, product, read).value_or(Article());
     return article.updateStatement();
 }
 

@@ -1,5 +1,7 @@
 #include "catalogue/Article.h"
 
+#include "data/Connection.h"
+
 using namespace Qt::StringLiterals;
 
 namespace {
@@ -47,10 +49,19 @@ const QStringList &Article::languages()
     return codes;
 }
 
-QString Article::selectStatement(int idProduit)
+std::optional<Article> Article::read(Connection &gCnn, int idProduit, Result &result)
 {
-    return u"SELECT T_PRODUIT."_s + columns().join(u", T_PRODUIT."_s) + u" FROM T_PRODUIT WHERE (idProduit = "_s
-           + QString::number(idProduit) + u");"_s;
+    std::optional<Article> article;
+    Reader row = gCnn.read(u"SELECT T_PRODUIT."_s + columns().join(u", T_PRODUIT."_s)
+                           + u" FROM T_PRODUIT WHERE (idProduit = "_s + QString::number(idProduit) + u");"_s);
+    if (row.next()) {
+        article.emplace();
+        for (int column = 0; column < columns().size(); ++column)
+            if (!row.isNull(column))
+                article->setText(columns()[column], row.text(column));
+    }
+    result = row.result();
+    return article;
 }
 
 /// Keys, ticks and the quantity go plain; an emptied quantity is a null.

@@ -1,7 +1,12 @@
 #pragma once
+#include "platform/Result.h"
+
 #include <QHash>
 #include <QString>
 #include <QStringList>
+#include <optional>
+
+class Connection;
 
 /// Between single quotes, with every single quote inside doubled.
 QString ProtegerTexte(const QString &text);
@@ -20,10 +25,13 @@ public:
     /// A column that was null in the store has no text here at all.
     bool has(const QString &column) const { return m_texts.contains(column); }
 
-    static QString selectStatement(int idProduit);
+    /// The row of a product; nothing when there is none or when it can't be read.
+    static std::optional<Article> read(Connection &gCnn, int idProduit, Result &result);
     QString insertStatement() const;
     /// Everything but the key and the day of creation.
     QString updateStatement() const;
+
+    bool operator==(const Article &) const = default;
 
 private:
     QString value(const QString &column) const;

@@ -1,17 +1,15 @@
 #include "catalogue/frmArticle.h"
 
 #include "catalogue/ArticleControls.h"
+#include "catalogue/AttachmentBlock.h"
 #include "catalogue/AttributeGrid.h"
 #include "catalogue/BandGrid.h"
 #include "catalogue/Ean13.h"
 #include "catalogue/KeyCombo.h"
 #include "catalogue/PriceBlock.h"
 #include "catalogue/ProductNumber.h"
-#include "catalogue/frmDlgOpenDoc.h"
 #include "platform/BarcodeReader.h"
-#include "platform/Desktop.h"
 #include "platform/Messages.h"
-#include "platform/Picture.h"
 #include "ui_frmArticle.h"
 
 using namespace Qt::StringLiterals;
@@ -33,6 +31,7 @@ frmArticle::frmArticle(Session &screenSession, QWidget *parent)
     m_prices = std::make_unique<PriceBlock>(*this);
     m_bands = std::make_unique<BandGrid>(*m_ui->fpSpread2);
     m_attributes = std::make_unique<AttributeGrid>(*m_ui->fpSpread1, session());
+    m_attachments = std::make_unique<AttachmentBlock>(*this, session());
     m_prices->chain().bChargement = true;
     m_prices->chain().type(Field::Qte, 1);
     m_ui->txtSeuil->setNumber(1);
@@ -115,22 +114,6 @@ void frmArticle::wire()
         if (shown)
             m_ui->fpSpread2->setActiveCell(1, 1);
     });
-    connect(m_ui->cmdAddPict, &QPushButton::clicked, this, [this] {
-        session().giSmall = 0;
-        editAttachments(true);
-    });
-    connect(m_ui->cmdAddPictSmall, &QPushButton::clicked, this, [this] {
-        session().giSmall = 1;
-        editAttachments(true);
-    });
-    connect(m_ui->cmdAddDoc, &QPushButton::clicked, this, [this] { editAttachments(false); });
-    for (AttachmentList *list : {m_ui->lstPicture, m_ui->lstDoc}) {
-        connect(list, &AttachmentList::filesDropped, this,
-                [this, list](const QStringList &paths) { addDropped(list == m_ui->lstPicture, paths); });
-        connect(list, &QListWidget::itemActivated, this,
-                [this](const QListWidgetItem *item) { session().desktop->open(session().filePath(item->text())); });
-    }
-    connect(m_ui->lstPicture, &QListWidget::currentRowChanged, this, &frmArticle::showPicture);
     connect(m_ui->cmdValider0, &QPushButton::clicked, this, &frmArticle::save);
     connect(m_ui->cmdFermer, &QPushButton::clicked, this, &frmArticle::reject);
 }
@@ -155,9 +138,9 @@ void frmArticle::openInMode()
     AfficherPrix();
     session().gbRafraichirListe = true;
     session().gbPhotos = true;
-    AfficherDocs();
+    m_attachments->AfficherDocs();
     session().gbPhotos = false;
-    AfficherDocs();
+    m_attachments->AfficherDocs();
 }
 
 /// The next number, which is taken though the product may never be saved, and what follows from it.
@@ -176,14 +159,11 @@ void frmArticle::startNewProduct()
 
 void frmArticle::AfficherArticle()
 {
-    Article article;
-    Reader row = session().gCnn.read(Article::selectStatement(session().glIdProduit));
-    if (row.next())
-        for (int column = 0; column < Article::columns().size(); ++column)
-            if (!row.isNull(column))
-                article.setText(Article::columns()[column], row.text(column));
-    if (!row.result())
-        report({row.result()}, u"AfficherArticle"_s);
+    Result read;
+    m_stored = Article::read(session().gCnn, session().glIdProduit, read);
+    const Article article = m_stored.value_or(Article());
+    if (!read)
+        report({read}, u"AfficherArticle"_s);
     ArticleControls::show(article, *this);
     m_prices->show(article);
     const auto giveKey = [&article](int &key, const QString &column) {
@@ -220,33 +200,6 @@ void frmArticle::AfficherPrix()
     m_bands->show(ProductRows::readBands(session().gCnn, session().glIdProduit, read));
     if (!read)
         report({read}, u"AfficherPrix"_s);
-}
-
-void frmArticle::AfficherDocs()
-{
-    QStringList paths;
-    const auto fill = [this, &paths](QListWidget &list, const Result &read) {
-        list.clear();
-        list.addItems(paths);
-        if (!read)
-            report({read}, u"AfficherDocs"_s);
-    };
-    if (!session().gbPhotos) {
-        const Result read = Attachments::documents(session(), paths);
-        fill(*m_ui->lstDoc, read);
-    }
-    paths.clear();
-    const Result read = Attachments::pictures(session(), paths);
-    fill(*m_ui->lstPicture, read);
-    showPicture();
-}
-
-void frmArticle::showPicture()
-{
-    const QListWidgetItem *chosen = m_ui->lstPicture->currentItem();
-    m_ui->imgPhoto->setPixmap(
-        chosen ? Picture::fitted(session().filePath(chosen->text()), m_ui->imgPhoto->contentsRect().size())
-               : QPixmap());
 }
 
 void frmArticle::Initialiser()
@@ -319,7 +272,7 @@ void frmArticle::save()
 {
     for (NumberBox *box : findChildren<NumberBox *>())
         box->complete();
-    if (!isComplete())
+    if (!isComplete() || !mayOverwrite())
         return;
     std::vector<Result> attributes;
     std::vector<Result> prices;
@@ -342,6 +295,21 @@ void frmArticle::save()
     if (article)
         saved();
     session().gbRafraichirListe = true;
+}
+
+/// A product that somebody else has changed or deleted since it was opened is not overwritten without a word.
+bool frmArticle::mayOverwrite()
+{
+    if (!isMode(Modify))
+        return true;
+    Result read;
+    const std::optional<Article> present = Article::read(session().gCnn, session().glIdProduit, read);
+    if (!read || present == m_stored)
+        return true; // a store that can't be read tells its failure at the save
+    if (present)
+        return session().messages->question(message(u"changed"_s), title);
+    session().messages->box(message(u"deleted"_s), title);
+    return false;
 }
 
 /// In consult mode nothing is written, and all goes on as if it had been.
@@ -371,28 +339,14 @@ Result frmArticle::AjouterArticle()
 void frmArticle::saved()
 {
     if (!isMode(New)) {
+        Result read;
+        m_stored = Article::read(session().gCnn, session().glIdProduit, read);
         m_ui->cmdEtiquette->setEnabled(true);
     } else {
         session().messages->question(message(u"119"_s), title);
         Initialiser();
     }
     m_ui->cmdValider0->setEnabled(false);
-}
-
-void frmArticle::editAttachments(bool photos)
-{
-    session().gbPhotos = photos;
-    frmDlgOpenDoc(session(), this).exec();
-    AfficherDocs();
-}
-
-void frmArticle::addDropped(bool photos, const QStringList &paths)
-{
-    session().gbPhotos = photos;
-    session().giSmall = 0;
-    for (const Attachments::Failure &failure : Attachments::addDroppedFiles(session(), paths))
-        report({failure.result}, failure.method);
-    AfficherDocs();
 }
 
 void frmArticle::report(const std::vector<Result> &failures, const QString &method) const

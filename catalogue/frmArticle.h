@@ -1,9 +1,11 @@
 #pragma once
-#include "catalogue/Attachments.h"
+#include "catalogue/Article.h"
 #include "shell/Screen.h"
 
 #include <memory>
+#include <optional>
 
+class AttachmentBlock;
 class AttributeGrid;
 class BandGrid;
 class BarcodeReader;
@@ -35,19 +37,16 @@ private:
     void AfficherArticle();
     void placeCombos();
     void AfficherPrix();
-    void AfficherDocs();
     void Initialiser();
 
     void chooseCategory();
     void chooseFamily();
     void chooseTvaV();
     bool isComplete();
+    bool mayOverwrite();
     void save();
     Result AjouterArticle();
     void saved();
-    void editAttachments(bool photos);
-    void addDropped(bool photos, const QStringList &paths);
-    void showPicture();
     void report(const std::vector<Result> &failures, const QString &title) const;
     QString message(const QString &key) const;
     QString today() const;
@@ -55,6 +54,7 @@ private:
     std::unique_ptr<Ui::frmArticle> m_ui;
     std::unique_ptr<PriceBlock> m_prices;
     std::unique_ptr<BandGrid> m_bands;
+    std::unique_ptr<AttachmentBlock> m_attachments;
     std::unique_ptr<AttributeGrid> m_attributes;
     std::unique_ptr<KeyCombo> m_category;
     std::unique_ptr<KeyCombo> m_family;
@@ -62,6 +62,7 @@ private:
     std::unique_ptr<KeyCombo> m_tvaA;
     std::unique_ptr<KeyCombo> m_tvaV;
     BarcodeReader *m_reader;
-    QString m_sCategorie; ///< the shown names, written beside the keys
+    std::optional<Article> m_stored; ///< as it was when this screen last read or wrote it
+    QString m_sCategorie;            ///< the shown names, written beside the keys
     QString m_sFamille;
 };

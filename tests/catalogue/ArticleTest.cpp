@@ -267,6 +267,22 @@ void ArticleTest::failuresKeepWhatWasTyped()
     QVERIFY(other->execute(u"COMMIT"_s));
     control<QPushButton>(*window, "cmdValider0").click();
     QCOMPARE(desk.column(u"sNomFR"_s, 5), u"Nouveau nom"_s);
+    // Changed or deleted by another program since it was opened.
+    desk.messages.boxes.clear();
+    desk.messages.answer = false;
+    QVERIFY(other->execute(u"UPDATE T_PRODUIT SET sMarque = 'AILLEURS' WHERE idProduit = 5"_s));
+    control<QLineEdit>(*window, "txtNom_0").setText(u"Encore"_s);
+    control<QPushButton>(*window, "cmdValider0").click();
+    QCOMPARE(desk.column(u"sNomFR || sMarque"_s, 5), u"Nouveau nomAILLEURS"_s);
+    desk.messages.answer = true;
+    control<QPushButton>(*window, "cmdValider0").click();
+    QCOMPARE(desk.column(u"sNomFR"_s, 5), u"Encore"_s);
+    QCOMPARE(desk.messages.boxes.size(), 2);
+    auto gone = desk.open(2, 6);
+    QVERIFY(other->execute(u"DELETE FROM T_PRODUIT WHERE idProduit = 6"_s));
+    control<QPushButton>(*gone, "cmdValider0").click();
+    QCOMPARE(desk.messages.boxes.size(), 3);
+    QCOMPARE(desk.column(u"count(*)"_s, 6), u"0"_s);
     // A key that is taken: the screen stays in its mode, and attributes and prices of the other product stay too.
     const QString prices = desk.value(u"SELECT count(*) FROM T_PRODUIT_PRIX"_s);
     desk.messages.boxes.clear();
