@@ -2,6 +2,7 @@
 
 #include "catalogue/frmDlgOpenDoc.h"
 #include "catalogue/frmListProduct.h"
+#include "reference/frmMaterial.h"
 #include "reference/frmTrad.h"
 #include "shop/frmCatalogue.h"
 #include "shop/frmInfo.h"
@@ -49,9 +50,9 @@ void DeskScreens::showProducts(QMdiArea *frame)
     m_products->setFocus();
 }
 
-bool DeskScreens::showTree(QWidget *, bool)
+void DeskScreens::showTree(QWidget *parent, bool bCategorie)
 {
-    return false;
+    frmMaterial(m_session, bCategorie, parent).exec();
 }
 
 bool DeskScreens::showFtp(QWidget *)

@@ -13,7 +13,7 @@ public:
     void showCatalogue(QWidget *parent) override;
     void showInfo(QWidget *parent) override;
     void showProducts(QMdiArea *frame) override;
-    bool showTree(QWidget *parent, bool bCategorie) override;
+    void showTree(QWidget *parent, bool bCategorie) override;
     bool showFtp(QWidget *parent) override;
     std::optional<PickedFile> pickPicture(QWidget *parent) override;
     bool translate(QWidget *window) override;

@@ -136,6 +136,17 @@ QString SpreadModel::text(int column, int row) const
     return m_texts[size_t(at(column, row))];
 }
 
+void SpreadModel::deleteRow(int row)
+{
+    if (row < 1 || row > m_rows)
+        return;
+    beginRemoveRows({}, row - 1, row - 1);
+    const auto first = m_texts.begin() + at(1, row);
+    m_texts.erase(first, first + m_columns);
+    --m_rows;
+    endRemoveRows();
+}
+
 void SpreadModel::setText(int column, int row, QString text)
 {
     if (row == 0 && column >= 1 && column <= m_columns) {

@@ -28,6 +28,8 @@ public:
     /// Puts these cells, row after row, in the place of all rows, without a word about each of them. Not for grids
     /// with list columns, whose cells hold positions.
     void fill(std::vector<QString> cells);
+    /// For grids whose cells are of their columns' types.
+    void deleteRow(int row);
 
     QString text(int column, int row) const;
     void setText(int column, int row, QString text);

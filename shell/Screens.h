@@ -20,8 +20,9 @@ public:
     virtual void showInfo(QWidget *parent) = 0;      ///< the company data
     /// The product list, a child window of the frame; a second call brings it to the front.
     virtual void showProducts(QMdiArea *frame) = 0;
-    /// The reference trees and the FTP client; false while there is none.
-    virtual bool showTree(QWidget *parent, bool bCategorie) = 0;
+    /// The tree of the product groups, or that of the lists.
+    virtual void showTree(QWidget *parent, bool bCategorie) = 0;
+    /// The FTP client; false while there is none.
     virtual bool showFtp(QWidget *parent) = 0;
     /// The file dialogue as the picker of one picture; nothing when it was left.
     virtual std::optional<PickedFile> pickPicture(QWidget *parent) = 0;

@@ -4,6 +4,8 @@
 #include "catalogue/frmArticle.h"
 #include "catalogue/frmDlgOpenDoc.h"
 #include "catalogue/frmListProduct.h"
+#include "reference/frmMaterial.h"
+#include "reference/frmRefDetail.h"
 #include "reference/frmTrad.h"
 #include "shell/ApplicationFolder.h"
 #include "shell/Skin.h"
@@ -29,6 +31,7 @@
 #include <QListWidget>
 #include <QTabWidget>
 #include <QTemporaryDir>
+#include <QTreeWidget>
 
 #include <cstdio>
 
@@ -130,6 +133,19 @@ void saveProducts(Session &session, const QString &folder)
         frmListProduct window(session, nullptr);
         window.findChild<Spread *>(u"fpSpread1"_s)->setActiveCell(2, 3);
         save(window, folder, u"frmListProduct"_s);
+    }
+    {
+        frmMaterial window(session, true, nullptr);
+        window.findChild<QTreeWidget *>(u"tvTools"_s)->expandAll();
+        save(window, folder, u"frmMaterial"_s);
+    }
+    {
+        ReferenceSelection family{true, u"Couteaux et planches"_s};
+        Reader row = session.gCnn.read(u"SELECT idFamille FROM T_PRODUIT"_s);
+        family.idParent = row.next() ? int(row.integer(0)) : 0;
+        frmRefDetail window(session, family, nullptr);
+        window.findChild<Spread *>(u"fpSpread4"_s)->setActiveCell(1, 2);
+        save(window, folder, u"frmRefDetail"_s);
     }
     session.giModeProduit = 2;
     frmArticle window(session, nullptr);

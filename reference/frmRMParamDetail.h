@@ -1,0 +1,20 @@
+#pragma once
+#include "reference/ReferenceTree.h"
+#include "shell/Screen.h"
+
+#include <memory>
+
+namespace Ui {
+class frmRMParamDetail;
+}
+
+/// The children of a node: of a list, a group or a sub-group's own level.
+class frmRMParamDetail : public Screen {
+    Q_OBJECT
+public:
+    frmRMParamDetail(Session &session, const ReferenceSelection &parent, QWidget *parentWidget);
+    ~frmRMParamDetail() override;
+
+private:
+    std::unique_ptr<Ui::frmRMParamDetail> m_ui;
+};
