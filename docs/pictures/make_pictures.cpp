@@ -31,6 +31,7 @@
 #include <QListWidget>
 #include <QTabWidget>
 #include <QTemporaryDir>
+#include <QToolButton>
 #include <QTreeWidget>
 
 #include <cstdio>
@@ -97,6 +98,8 @@ void saveWindows(Session &session, const QString &folder)
         frmMain window(session);
         window.resize(1000, 640);
         save(window, folder, u"frmMain"_s);
+        window.findChild<QToolButton *>(u"produit"_s)->click();
+        save(window, folder, u"frmMain-2"_s);
     }
     {
         frmPW window(session, nullptr);
