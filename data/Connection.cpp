@@ -74,3 +74,10 @@ Result StoreAction::end()
         (void)m_connection.execute(u"ROLLBACK"_s);
     return committed;
 }
+
+void StoreAction::abandon()
+{
+    if (m_open)
+        (void)m_connection.execute(u"ROLLBACK"_s);
+    m_open = false;
+}

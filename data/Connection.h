@@ -38,6 +38,8 @@ public:
     const Result &begun() const { return m_begun; }
     /// Ends the action early, and tells whether the store has it.
     Result end();
+    /// Ends the action with nothing done.
+    void abandon();
 
 private:
     Connection &m_connection;

@@ -1,5 +1,7 @@
 #include "platform/SpreadModel.h"
 
+#include "platform/OneLine.h"
+
 using namespace Qt::StringLiterals;
 
 int SpreadModel::rowCount(const QModelIndex &parent) const
@@ -52,7 +54,7 @@ bool SpreadModel::setData(const QModelIndex &index, const QVariant &value, int r
     if (role == Qt::CheckStateRole)
         setText(index.column() + 1, index.row() + 1, value.toInt() == Qt::Checked ? u"1"_s : u"0"_s);
     else if (role == Qt::EditRole)
-        setText(index.column() + 1, index.row() + 1, value.toString());
+        setText(index.column() + 1, index.row() + 1, oneLine(value.toString()));
     else
         return false;
     return true;

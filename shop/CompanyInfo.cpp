@@ -1,12 +1,14 @@
 #include "shop/CompanyInfo.h"
 
+#include "platform/OneLine.h"
+
 using namespace Qt::StringLiterals;
 
 namespace {
 
-QString doubled(QString text)
+QString literal(const QString &text)
 {
-    return text.replace(u"'"_s, u"''"_s);
+    return u'\'' + oneLine(text).replace(u"'"_s, u"''"_s) + u'\'';
 }
 
 } // namespace
@@ -26,18 +28,17 @@ Result CompanyInfo::write(const std::vector<InfoRow> &rows, Session &session)
     StoreAction action(session.gCnn);
     if (!action.begun())
         return action.begun();
-    Result first = session.gCnn.execute(u"DELETE REF_INFO.* FROM REF_INFO;"_s);
+    Result done = session.gCnn.execute(u"DELETE REF_INFO.* FROM REF_INFO;"_s);
     for (const InfoRow &row : rows) {
-        if (row.sInfo.trimmed().isEmpty())
-            continue;
-        const Result inserted =
-            session.gCnn.execute(u"INSERT INTO REF_INFO (idInfo, sInfo, sValeur) Values ("_s + row.idInfo + u", '"_s
-                                 + doubled(row.sInfo) + u"' , '"_s + doubled(row.sValeur) + u"'); "_s);
-        if (first && !inserted)
-            first = inserted;
+        if (!done)
+            break;
+        if (!row.sInfo.trimmed().isEmpty())
+            done = session.gCnn.execute(u"INSERT INTO REF_INFO (idInfo, sInfo, sValeur) Values ("_s + row.idInfo
+                                        + u", "_s + literal(row.sInfo) + u" , "_s + literal(row.sValeur) + u"); "_s);
     }
-    if (const Result ended = action.end(); first && !ended)
-        first = ended;
-    const Result read = AfficherInfo(session);
-    return first ? read : first;
+    if (done)
+        done = action.end();
+    else
+        action.abandon();
+    return done ? AfficherInfo(session) : done;
 }

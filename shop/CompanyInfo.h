@@ -15,8 +15,8 @@ namespace CompanyInfo {
 
 std::vector<InfoRow> read(Connection &connection, Result &result);
 
-/// Deletes all rows and writes those with a label again, a row that fails leaving the others; then refills
-/// `gInfo`. A row without a label falls out, and all later positions move up. The result is the first failure.
+/// Deletes all rows and writes those with a label again, then refills `gInfo`. A row without a label falls out, and
+/// all later positions move up. On failure the store keeps the old rows, every one of them.
 Result write(const std::vector<InfoRow> &rows, Session &session);
 
 } // namespace CompanyInfo
