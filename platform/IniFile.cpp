@@ -1,13 +1,16 @@
 #include "platform/IniFile.h"
 
 #include "platform/CodePage.h"
+#include "platform/OneLine.h"
+#include "platform/WholeFile.h"
 
 #include <QFile>
-#include <QSaveFile>
 #include <QStringConverter>
 
 #define SI_NO_CONVERSION
 #include <SimpleIni.h>
+
+#include <algorithm>
 
 struct IniFile::Content {
     CSimpleIniA ini{true, false, false};
@@ -20,6 +23,14 @@ constexpr QChar keptBlank = QChar(0xE020);
 
 /// A key that never reaches a file.
 const QString lastKey = QString(QChar(0xE021));
+
+/// Begins a line that says nothing to the library and goes back into the file as it was.
+const QString keptLine = u';' + QString(QChar(0xE022));
+
+bool isForeign(QChar c)
+{
+    return c < u' ' && c != u'\n' && c != u'\r' && c != u'\t' && c != u'\f';
+}
 
 QString protectTrailingBlanks(QString line)
 {
@@ -68,10 +79,13 @@ Result IniFile::load(const QString &path)
 {
     m_content = std::make_unique<Content>();
     m_remarks.clear();
+    m_damaged = false;
     QFile file(path);
     if (!file.open(QIODevice::ReadOnly))
         return {1, file.errorString()};
-    QStringList lines = decoded(file.readAll(), m_remarks).split(u'\n');
+    const QString text = decoded(file.readAll(), m_remarks);
+    m_damaged = std::any_of(text.begin(), text.end(), isForeign);
+    QStringList lines = text.split(u'\n');
     for (qsizetype i = 0; i < lines.size(); ++i) {
         QString &line = lines[i];
         if (line.endsWith(u'\r'))
@@ -79,7 +93,7 @@ Result IniFile::load(const QString &path)
         line.remove(QChar(0));
         if (!isWellFormed(line)) {
             m_remarks << QStringLiteral("no \"key=value\" in line %1").arg(i + 1);
-            line.clear();
+            line.prepend(keptLine);
         }
         line = protectTrailingBlanks(line);
     }
@@ -95,15 +109,12 @@ Result IniFile::save(const QString &path) const
 {
     std::string bytes;
     m_content->ini.Save(bytes);
-    QSaveFile file(path);
-    if (!file.open(QIODevice::WriteOnly))
-        return {1, file.errorString()};
     QStringList lines = QString::fromStdString(bytes).replace(keptBlank, u' ').split(u'\n');
     lines.removeIf([](const QString &line) { return line.startsWith(lastKey); });
-    file.write(lines.join(u'\n').toUtf8());
-    if (!file.commit())
-        return {1, file.errorString()};
-    return {};
+    for (QString &line : lines)
+        if (line.startsWith(keptLine))
+            line.remove(0, keptLine.size());
+    return WholeFile::replace(path, lines.join(u'\n').toUtf8());
 }
 
 QString IniFile::value(const QString &section, const QString &key) const
@@ -115,7 +126,7 @@ QString IniFile::value(const QString &section, const QString &key) const
 void IniFile::setValue(const QString &section, const QString &key, const QString &value)
 {
     m_content->ini.SetValue(section.toUtf8().constData(), key.toUtf8().constData(),
-                            protectTrailingBlanks(value).toUtf8().constData());
+                            protectTrailingBlanks(oneLine(value)).toUtf8().constData());
 }
 
 QStringList IniFile::keys(const QString &section) const

@@ -15,7 +15,7 @@ public:
     IniFile(IniFile &&) noexcept;
 
     /// Reads a file. A missing or unreadable one fails and leaves the object empty. A file that is not UTF-8 is
-    /// read in the 8-bit code page, a line that is neither section, comment nor "key=value" is skipped;
+    /// read in the 8-bit code page, a line that is neither section, comment nor "key=value" says nothing and is kept;
     /// `remarks` names both.
     Result load(const QString &path);
     /// Writes the whole file, atomically.
@@ -23,14 +23,18 @@ public:
 
     /// The value as it stands, trailing blanks included; an empty text when there is none.
     QString value(const QString &section, const QString &key) const;
+    /// A value is one line; line breaks become blanks. Blanks before it are not kept.
     void setValue(const QString &section, const QString &key, const QString &value);
     /// The keys of a section in the order of the file.
     QStringList keys(const QString &section) const;
     /// What was wrong with the file last loaded, one line each.
     const QStringList &remarks() const { return m_remarks; }
+    /// Whether the file holds bytes that no text does; written back it would not be the same.
+    bool isDamaged() const { return m_damaged; }
 
 private:
     struct Content;
     std::unique_ptr<Content> m_content;
     QStringList m_remarks;
+    bool m_damaged = false;
 };

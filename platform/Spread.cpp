@@ -1,12 +1,12 @@
 #include "platform/Spread.h"
 
 #include "platform/SpreadDelegate.h"
+#include "platform/WholeFile.h"
 
 #include <QApplication>
 #include <QFileInfo>
 #include <QHeaderView>
 #include <QKeyEvent>
-#include <QSaveFile>
 
 using namespace Qt::StringLiterals;
 
@@ -16,17 +16,6 @@ bool movesRow(int key)
 {
     return key == Qt::Key_Up || key == Qt::Key_Down || key == Qt::Key_PageUp || key == Qt::Key_PageDown
            || key == Qt::Key_Home || key == Qt::Key_End;
-}
-
-Result writeWhole(const QString &path, const QByteArray &bytes)
-{
-    QSaveFile file(path);
-    if (!file.open(QIODevice::WriteOnly))
-        return {1, file.errorString()};
-    // The commit alone passes over a disk that fills while the last bytes are written.
-    if (file.write(bytes) != bytes.size() || !file.flush() || !file.commit())
-        return {1, file.errorString()};
-    return {};
 }
 
 } // namespace
@@ -146,12 +135,12 @@ CellTable Spread::visibleCells() const
 
 Result Spread::saveTabText(const QString &path) const
 {
-    return writeWhole(path, visibleCells().toTabText());
+    return WholeFile::replace(path, visibleCells().toTabText());
 }
 
 Result Spread::exportHtml(const QString &path) const
 {
-    return writeWhole(path, visibleCells().toHtml(QFileInfo(path).completeBaseName()));
+    return WholeFile::replace(path, visibleCells().toHtml(QFileInfo(path).completeBaseName()));
 }
 
 void Spread::keyPressEvent(QKeyEvent *event)

@@ -3,6 +3,7 @@
 #include <QCoreApplication>
 #include <QFile>
 #include <QFileInfo>
+#include <QSaveFile>
 
 #include <filesystem>
 #include <system_error>
@@ -54,6 +55,17 @@ Result WholeFile::write(const QString &path, QByteArrayView bytes)
         QFile::remove(temporary);
         return {1, QString::fromStdString(failed.message())};
     }
+    return {};
+}
+
+Result WholeFile::replace(const QString &path, const QByteArray &bytes)
+{
+    QSaveFile file(path);
+    if (!file.open(QIODevice::WriteOnly))
+        return {1, file.errorString()};
+    // The commit alone passes over a disk that fills while the last bytes are written.
+    if (file.write(bytes) != bytes.size() || !file.flush() || !file.commit())
+        return {1, file.errorString()};
     return {};
 }
 

@@ -11,6 +11,8 @@ namespace WholeFile {
 /// Writes `bytes` under a temporary name beside `path` and renames it. On failure the old file stays and no
 /// temporary one does.
 Result write(const QString &path, QByteArrayView bytes);
+/// The same for what can't be made again: the bytes are on the disk before the old file goes, which keeps its rights.
+Result replace(const QString &path, const QByteArray &bytes);
 /// Whether the file holds exactly these bytes.
 bool holds(const QString &path, QByteArrayView bytes);
 /// Whether a file name is that of a temporary file, left behind by a run that was killed.

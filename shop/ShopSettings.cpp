@@ -1,9 +1,9 @@
 #include "shop/ShopSettings.h"
 
 #include "platform/CodePage.h"
+#include "platform/WholeFile.h"
 
 #include <QFile>
-#include <QSaveFile>
 
 #include <array>
 
@@ -163,11 +163,8 @@ Result SaveParam(const ShopSettings &settings, Session &session, RunReport *repo
         save(u"SNT"_s + QString::number(row), method.name);
         save(u"SVT"_s + QString::number(row), method.value);
     }
-    for (const TextKey &entry : textFiles()) {
-        QSaveFile file(session.applicationFolder + u'/' + entry.key);
-        if (!file.open(QIODevice::WriteOnly) || file.write(CodePage::encode(settings.*entry.text)) < 0
-            || !file.commit())
-            note(Incident::FileNotWritten, entry.key, {1, file.errorString()});
-    }
+    for (const TextKey &entry : textFiles())
+        note(Incident::FileNotWritten, entry.key,
+             WholeFile::replace(session.applicationFolder + u'/' + entry.key, CodePage::encode(settings.*entry.text)));
     return first;
 }

@@ -88,6 +88,7 @@ void IniFileTest::encodings()
     QCOMPARE(ini.value(u"A"_s, u"k"_s), u"café 5 €"_s);
     QCOMPARE(ini.remarks().size(), remark.isEmpty() ? 0 : 1);
     QVERIFY(ini.remarks().join(u' ').contains(remark));
+    QVERIFY(!ini.isDamaged());
 }
 
 void IniFileTest::brokenLinesLeaveTheOthers()
@@ -96,6 +97,7 @@ void IniFileTest::brokenLinesLeaveTheOthers()
     QVERIFY(ini.load(file("[A]\nk=1\nno value here\n=5\n[B\nm=2\n; a comment\n# another\n\n[C]\nn=3\n")));
     QCOMPARE(ini.value(u"A"_s, u"k"_s), u"1"_s);
     QCOMPARE(ini.value(u"C"_s, u"n"_s), u"3"_s);
+    QVERIFY(!ini.isDamaged());
     QCOMPARE(ini.remarks().size(), 3);
     QVERIFY(ini.remarks()[0].endsWith(u" 3"_s) && ini.remarks()[1].endsWith(u" 4"_s)
             && ini.remarks()[2].endsWith(u" 5"_s));
@@ -104,17 +106,17 @@ void IniFileTest::brokenLinesLeaveTheOthers()
 void IniFileTest::writingKeepsOrderAndComments()
 {
     IniFile ini;
-    QVERIFY(ini.load(file("; head\n\n[Z]\n; of b\nb=1 \na=2\n\n[A]\nk=3\n; foot\n")));
+    QVERIFY(ini.load(file("; head\n\n[Z]\n; of b\nno sign\nb=1 \na=2\n\n[A]\nk=3\n; foot\n")));
     ini.setValue(u"z"_s, u"A"_s, u"zwei  "_s);
-    ini.setValue(u"A"_s, u"new"_s, u"été"_s);
+    ini.setValue(u"A"_s, u"new"_s, u"é\r\nt\nz=9"_s + QChar(0) + u"é"_s);
     const QString path = m_folder.filePath(u"saved.cda"_s);
     QVERIFY(ini.save(path));
     QStringList lines = QString::fromUtf8(Files::read(path)).remove(u'\r').split(u'\n');
     lines.removeAll(QString());
     for (QString &line : lines)
         line.replace(u" = "_s, u"="_s);
-    QCOMPARE(lines, QStringList({u"; head"_s, u"[Z]"_s, u"; of b"_s, u"b=1 "_s, u"a=zwei  "_s, u"[A]"_s, u"k=3"_s,
-                                 u"; foot"_s, u"new=été"_s}));
+    QCOMPARE(lines, QStringList({u"; head"_s, u"[Z]"_s, u"; of b"_s, u"no sign"_s, u"b=1 "_s, u"a=zwei  "_s, u"[A]"_s,
+                                 u"k=3"_s, u"; foot"_s, u"new=é t z=9é"_s}));
     IniFile again;
     QVERIFY(again.load(path));
     QCOMPARE(again.value(u"Z"_s, u"a"_s), u"zwei  "_s);
