@@ -3,6 +3,7 @@
 #include "platform/IniFile.h"
 #include "platform/Messages.h"
 #include "reference/TranslationRule.h"
+#include "shell/Causes.h"
 #include "ui_frmTrad.h"
 
 using namespace Qt::StringLiterals;
@@ -47,8 +48,8 @@ frmTrad::~frmTrad() = default;
 void frmTrad::Afficher()
 {
     IniFile file;
-    if (const Result loaded = file.load(session().localisation.fileName(session().localisation.gsLangue)); !loaded)
-        session().messages->box(loaded.message(), u"Afficher"_s);
+    if (const Result loaded = load(file); !loaded)
+        tell(loaded, u"Afficher"_s);
     Spread &grid = *m_ui->fpSpread1;
     int row = 0;
     for (const QString &key : file.keys(m_section)) {
@@ -61,11 +62,27 @@ void frmTrad::Afficher()
     }
 }
 
+Result frmTrad::load(IniFile &file) const
+{
+    Result loaded = file.load(path());
+    // What is no text would not come back from the writing; the file stays for one who can mend it.
+    return loaded && file.isDamaged() ? Result(2, u"not in the form of a language file"_s) : loaded;
+}
+
+void frmTrad::tell(const Result &failure, const QString &method) const
+{
+    session().messages->box(Causes::message(failure, session().localisation), method);
+}
+
+QString frmTrad::path() const
+{
+    return session().localisation.fileName(session().localisation.gsLangue);
+}
+
 Result frmTrad::Ajouter()
 {
-    const QString path = session().localisation.fileName(session().localisation.gsLangue);
     IniFile file;
-    if (Result loaded = file.load(path); !loaded)
+    if (Result loaded = load(file); !loaded)
         return loaded;
     const Spread &grid = *m_ui->fpSpread1;
     for (int row = 1; row <= grid.MaxRows(); ++row) {
@@ -74,13 +91,14 @@ Result frmTrad::Ajouter()
         if (mayTranslate(m_section, key, text))
             file.setValue(m_section, key, text);
     }
-    return file.save(path);
+    return file.save(path());
 }
 
 void frmTrad::validate()
 {
+    m_ui->fpSpread1->finishEditing();
     if (const Result written = Ajouter(); !written) {
-        session().messages->box(written.message(), u"Ajouter"_s);
+        tell(written, u"Ajouter"_s);
         return;
     }
     session().gbValider = true;

@@ -3,6 +3,7 @@
 
 #include <memory>
 
+class IniFile;
 namespace Ui {
 class frmTrad;
 }
@@ -21,6 +22,9 @@ public:
     Result Ajouter();
 
 private:
+    QString path() const;
+    Result load(IniFile &file) const;
+    void tell(const Result &failure, const QString &method) const;
     void validate();
 
     std::unique_ptr<Ui::frmTrad> m_ui;
