@@ -270,6 +270,8 @@ bool frmArticle::isComplete()
 /// Row, attributes and prices reach the store as one action; its failures are told when the store is free again.
 void frmArticle::save()
 {
+    for (Spread *grid : {m_ui->fpSpread1, m_ui->fpSpread2})
+        grid->finishEditing();
     for (NumberBox *box : findChildren<NumberBox *>())
         box->complete();
     if (!isComplete() || !mayOverwrite())

@@ -266,8 +266,15 @@ void frmCatalogue::listFinding(const QString &line, const QString &control)
     item->setData(controlRole, control);
 }
 
+void frmCatalogue::finishEditing()
+{
+    for (Spread *grid : {m_ui->fpSpread2, m_ui->fpSpread12})
+        grid->finishEditing();
+}
+
 void frmCatalogue::check()
 {
+    finishEditing();
     const Busy busy;
     m_ui->lstControle->clear();
     QSet<QString> picturesTold;
@@ -294,6 +301,7 @@ void frmCatalogue::setRunning(bool running)
 
 void frmCatalogue::generate()
 {
+    finishEditing();
     {
         const Busy busy;
         m_ui->cmdFtp->setEnabled(false);

@@ -35,6 +35,7 @@ private:
     void chooseTheme(int row);
     void chooseLogo();
     void chooseLanguage();
+    void finishEditing();
     void tickAll(bool ticked);
     ShopData takeData() const;
     void check();

@@ -1,6 +1,7 @@
 #include "shop/frmInfo.h"
 
 #include "platform/Messages.h"
+#include "shell/Causes.h"
 #include "shop/CompanyInfo.h"
 #include "ui_frmInfo.h"
 
@@ -49,11 +50,12 @@ void frmInfo::AfficherInfo()
 void frmInfo::validate()
 {
     std::vector<InfoRow> rows;
-    const Spread &grid = *m_ui->fpSpread3;
+    Spread &grid = *m_ui->fpSpread3;
+    grid.finishEditing();
     for (int line = 1; line <= grid.MaxRows(); ++line)
         rows.push_back({grid.text(Number, line), grid.text(Label, line), grid.text(Value, line)});
     if (const Result written = CompanyInfo::write(rows, session()); !written) {
-        session().messages->box(written.message(), u"AjouterInfo"_s);
+        session().messages->box(Causes::message(written, session().localisation), u"AjouterInfo"_s);
         return;
     }
     accept();

@@ -16,6 +16,7 @@
 #include <QComboBox>
 #include <QDir>
 #include <QLabel>
+#include <QLineEdit>
 #include <QPushButton>
 #include <QTest>
 #include <QToolButton>
@@ -32,7 +33,10 @@ private Q_SLOTS:
     void mainWindowSaysWhatIsMissing();
     void companyDataIsRewrittenWhole();
     void lockedStoreLosesNoRow();
+    void refusedCompanyLineLosesNoRow();
     void translationShowsAtOnceAndKeepsTheFile();
+    void damagedLanguageFileIsLeftAlone();
+    void commandTakesTheOpenEditor();
     void languageTabsTakeCodesOnly_data();
     void languageTabsTakeCodesOnly();
     void registryKeepsItsKinds();
@@ -171,6 +175,29 @@ void WindowsTest::lockedStoreLosesNoRow()
     QCOMPARE(desk.value(u"SELECT sValeur FROM REF_INFO WHERE idInfo = 1"_s), u"Nouveau nom"_s);
 }
 
+void WindowsTest::refusedCompanyLineLosesNoRow()
+{
+    Desk desk;
+    desk.openSample();
+    Result opened;
+    const auto other = Store::open(desk.session.gsDbPath, opened);
+    QVERIFY(other->executeScript(u"CREATE TRIGGER refuse BEFORE INSERT ON REF_INFO WHEN NEW.idInfo = 3 BEGIN "
+                                 "SELECT RAISE(ABORT, 'refused'); END"_s));
+    frmInfo window(desk.session, nullptr);
+    window.show();
+    auto &grid = control<Spread>(window, "fpSpread3");
+    grid.setText(2, 1, u"Rue"_s + QChar(0) + u"\r\ndu\x1BPré"_s);
+    control<QPushButton>(window, "cmdValider").click();
+    QCOMPARE(desk.messages.boxes.size(), 1);
+    QVERIFY(window.isVisible() && grid.MaxRows() == 16);
+    QCOMPARE(desk.value(u"SELECT count(*) FROM REF_INFO"_s), u"16"_s);
+    QVERIFY(other->executeScript(u"DROP TRIGGER refuse"_s));
+    control<QPushButton>(window, "cmdValider").click();
+    QVERIFY(!window.isVisible());
+    QCOMPARE(desk.session.gInfo.value(0), u"Rue duPré"_s);
+    QCOMPARE(desk.session.gInfo.size(), 16);
+}
+
 void WindowsTest::translationShowsAtOnceAndKeepsTheFile()
 {
     Desk desk;
@@ -194,6 +221,35 @@ void WindowsTest::translationShowsAtOnceAndKeepsTheFile()
     QCOMPARE(control<QPushButton>(window, "cmdValider").text(), u"&Garder"_s);
     QVERIFY(Files::read(path).startsWith("; garder\n"));
     QCOMPARE(desk.session.localisation.Traduire(u"CATALOG"_s, u"m1"_s), u"Accueil"_s);
+}
+
+void WindowsTest::damagedLanguageFileIsLeftAlone()
+{
+    Desk desk;
+    desk.openSample();
+    const QByteArray rubbish("[PARAM]\n2=OK\n\x01\x02=\x03\n");
+    Files::write(desk.path(u"data/FR.cda"_s), rubbish);
+    frmTrad window(desk.session, u"PARAM"_s, u"x"_s, nullptr);
+    window.show();
+    control<QPushButton>(window, "cmdValider0").click();
+    QVERIFY(window.isVisible() && !desk.session.gbValider);
+    QCOMPARE(desk.messages.boxes.last(), u"Ajouter|2: n’a pas la forme d’un fichier de langue"_s);
+    QCOMPARE(Files::read(desk.path(u"data/FR.cda"_s)), rubbish);
+}
+
+/// A button reached by its key does not take the focus from the cell.
+void WindowsTest::commandTakesTheOpenEditor()
+{
+    Desk desk;
+    desk.openSample();
+    frmInfo window(desk.session, nullptr);
+    window.show();
+    auto &grid = control<Spread>(window, "fpSpread3");
+    grid.setActiveCell(2, 1);
+    grid.edit(grid.currentIndex());
+    grid.findChild<QLineEdit *>()->setText(u"Chez nous"_s);
+    control<QPushButton>(window, "cmdValider").click();
+    QCOMPARE(desk.session.gInfo.value(0), u"Chez nous"_s);
 }
 
 void WindowsTest::languageTabsTakeCodesOnly_data()
