@@ -12,6 +12,8 @@ public:
     /// Opens the store that the "DBQ" entry of a connection text names.
     Result open(const QString &connectionText);
     bool isOpen() const { return bool(m_store); }
+    /// Whether the store may be read but not written.
+    bool isReadOnly() const { return m_store && m_store->isReadOnly(); }
     /// Path of the store, as the connection text names it.
     const QString &path() const { return m_path; }
 

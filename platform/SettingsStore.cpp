@@ -6,6 +6,7 @@
 #include <QFile>
 #include <QSettings>
 #include <QStandardPaths>
+#include <QTemporaryFile>
 
 namespace {
 
@@ -21,12 +22,31 @@ QString asText(const QVariant &value)
                                                     : value.toString();
 }
 
+Result notWritten(const QString &path)
+{
+    return {1, QStringLiteral("can't be written: ") + path};
+}
+
 Result written(QSettings &settings)
 {
     settings.sync();
-    if (settings.status() != QSettings::NoError)
-        return {1, QStringLiteral("can't be written: ") + settings.fileName()};
+    // An error of form tells how the file was read; it has been written all the same.
+    if (settings.status() == QSettings::AccessError)
+        return notWritten(settings.fileName());
     QFile::setPermissions(settings.fileName(), QFile::ReadOwner | QFile::WriteOwner);
+    return {};
+}
+
+/// Asks for the room before the old file is touched: the settings of the library put a cut file in its place when the
+/// disk fills at the end of their writing.
+Result hasRoom(const QString &path, qsizetype more)
+{
+    QTemporaryFile probe(path + QStringLiteral(".XXXXXX"));
+    if (!probe.open())
+        return notWritten(path);
+    const QByteArray bytes(QFileInfo(path).size() + more + 4096, ' ');
+    if (probe.write(bytes) != bytes.size() || !probe.flush())
+        return {1, probe.errorString()};
     return {};
 }
 
@@ -59,13 +79,45 @@ Result SettingsStore::save(const QString &application, const QString &section, c
                            const QString &value)
 {
     QDir().mkpath(m_folder);
-    QSettings settings(fileName(application), QSettings::IniFormat);
-    settings.setValue(keyOf(section, name), value);
-    return written(settings);
+    const QString path = fileName(application);
+    constexpr qsizetype escaped = 8; // bytes that a character takes at most
+    if (Result room = hasRoom(path, escaped * value.size()); !room)
+        return room;
+    if (Result kept = keepUnreadable(application); !kept)
+        return kept;
+    QSettings settings(path, QSettings::IniFormat);
+    const QString key = keyOf(section, name);
+    const QVariant before = settings.value(key);
+    settings.setValue(key, value);
+    Result result = written(settings);
+    if (!result) {
+        // Or the library would give what it could not write, and write it at the next chance.
+        if (before.isValid())
+            settings.setValue(key, before);
+        else
+            settings.remove(key);
+    }
+    return result;
+}
+
+Result SettingsStore::keepUnreadable(const QString &application) const
+{
+    const QString path = fileName(application);
+    const QString kept = unreadableName(application);
+    if (check(application) || QFile::exists(kept) || QFile::copy(path, kept))
+        return {};
+    return notWritten(path);
+}
+
+QString SettingsStore::unreadableName(const QString &application) const
+{
+    return fileName(application) + QStringLiteral(".bad");
 }
 
 Result SettingsStore::remove(const QString &application, const QString &section, const QString &name)
 {
+    if (Result kept = keepUnreadable(application); !kept)
+        return kept;
     QSettings settings(fileName(application), QSettings::IniFormat);
     settings.remove(keyOf(section, name));
     return written(settings);
@@ -93,7 +145,7 @@ Result SettingsStore::check(const QString &application) const
     IniFile file;
     if (Result loaded = file.load(path); !loaded)
         return loaded;
-    if (!file.remarks().isEmpty())
+    if (!file.remarks().isEmpty() || file.isDamaged())
         return {2, QStringLiteral("not in the form of a settings file")};
     return {};
 }

@@ -19,7 +19,8 @@ public:
     QString value(const QString &application, const QString &section, const QString &name,
                   const QString &absent = {}) const;
     bool contains(const QString &application, const QString &section, const QString &name) const;
-    /// Writes at once and whole; on failure the old file stays.
+    /// Writes at once and whole; on failure the old file and the old value stay. A file that can't be read as a whole
+    /// is kept under its `unreadableName` first.
     Result save(const QString &application, const QString &section, const QString &name, const QString &value);
     /// Removes a value, or with an empty name the whole section.
     Result remove(const QString &application, const QString &section, const QString &name);
@@ -28,8 +29,11 @@ public:
     QStringList names(const QString &application, const QString &section) const;
     /// Whether the file of an application key can be read; a file that does not exist can.
     Result check(const QString &application) const;
+    QString unreadableName(const QString &application) const;
 
 private:
+    Result keepUnreadable(const QString &application) const;
+
     QString m_folder;
 };
 

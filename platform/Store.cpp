@@ -101,6 +101,11 @@ std::unique_ptr<Store> Store::create(const QString &path, Result &result)
     return nullptr;
 }
 
+bool Store::isReadOnly() const
+{
+    return sqlite3_db_readonly(m_database->getHandle(), "main") == 1;
+}
+
 Result Store::execute(const QString &statement)
 {
     try {

@@ -60,6 +60,7 @@ public:
     /// Makes a new, empty store at a path where nothing stands yet. For the store builder.
     static std::unique_ptr<Store> create(const QString &path, Result &result);
 
+    bool isReadOnly() const;
     /// Runs one statement that gives no rows.
     Result execute(const QString &statement);
     /// Runs a script of several statements, in the dialect of the store itself. For the store builder.

@@ -8,7 +8,6 @@ using namespace Qt::StringLiterals;
 namespace {
 
 const QString passPhrase = u"sirocco"_s;
-const QString secretsApplication = u"BRAXOSOFT"_s;
 
 /// Reads the user's row; his rights count even when his password is then refused, as they always have.
 LoginStep checkUser(Session &session, const QString &password)
@@ -34,15 +33,19 @@ QString ChercherDroit(const QString &code, const QString &gsDroits)
     return found < 0 || gsDroits.isEmpty() ? u"/1111/"_s : gsDroits.mid(found + 3, 6);
 }
 
+const QString AdminPassword::application = u"BRAXOSOFT"_s;
+
 QString AdminPassword::read(const SettingsStore &settings)
 {
-    const QString stored = settings.value(secretsApplication, SettingsKey::section, u"mk"_s);
+    const QString stored = settings.value(application, SettingsKey::section, u"mk"_s);
+    if (stored.isEmpty() && !settings.check(application))
+        return QString(QChar(0));
     return stored.isEmpty() ? stored : Cipher::DecryptText(passPhrase, stored).value_or(stored);
 }
 
 Result AdminPassword::write(SettingsStore &settings, const QString &password)
 {
-    return settings.save(secretsApplication, SettingsKey::section, u"mk"_s, Cipher::EncryptText(passPhrase, password));
+    return settings.save(application, SettingsKey::section, u"mk"_s, Cipher::EncryptText(passPhrase, password));
 }
 
 LoginStep logIn(Session &session, const QString &userName, const QString &password, const QString &msAdminPW)

@@ -9,9 +9,11 @@ QString ChercherDroit(const QString &code, const QString &gsDroits);
 /// The administrator's password.
 namespace AdminPassword {
 
-/// In clear; empty when none is stored. A stored text that can't be deciphered comes back as it stands, so
-/// that damage to the settings does not open the program.
+/// In clear; empty when none is stored. A stored text that can't be deciphered comes back as it stands, and from a
+/// file that can't be read comes what nobody can type, so that damage to the settings does not open the program.
 QString read(const SettingsStore &settings);
+/// The application key of the settings that hold it.
+extern const QString application;
 Result write(SettingsStore &settings, const QString &password);
 
 } // namespace AdminPassword

@@ -3,6 +3,8 @@
 #include "data/DataSource.h"
 #include "data/clsConnection.h"
 #include "platform/Messages.h"
+#include "shell/Causes.h"
+#include "shell/Login.h"
 #include "shell/frmDbPath.h"
 #include "shell/frmLogin.h"
 #include "shell/frmMain.h"
@@ -38,6 +40,23 @@ bool askRegionalSettings(Session &session)
     return true;
 }
 
+/// Once at the start, and not at each reading: what could not be read is gone with the next saving.
+void tellUnreadableSettings(const Session &session)
+{
+    const SettingsStore &settings = session.settings;
+    const auto tell = [&](const QString &key, const QString &application) {
+        if (settings.check(application))
+            return;
+        QString text = session.localisation.Traduire(u"RUN"_s, key);
+        if (text.isEmpty())
+            text = u"Fichier de réglages illisible : %1"_s;
+        text.replace(u"%1"_s, settings.fileName(application)).replace(u"%2"_s, settings.unreadableName(application));
+        session.messages->box(text, u"ZELVANTOR"_s);
+    };
+    tell(u"bad"_s, SettingsKey::application);
+    tell(u"secret"_s, AdminPassword::application);
+}
+
 bool readRegionalSettings(Session &session)
 {
     session.gbPremierLancement = false;
@@ -47,6 +66,7 @@ bool readRegionalSettings(Session &session)
     session.gsMonnaie = session.setting(u"MONNAIE"_s);
     if (!language.isEmpty())
         session.localisation.gsLangue = language;
+    tellUnreadableSettings(session);
     const bool complete = !session.gsMonnaie.isEmpty() && !language.isEmpty() && !session.gsPays.isEmpty();
     if (!complete && !askRegionalSettings(session))
         return false;
@@ -79,7 +99,7 @@ std::unique_ptr<frmMain> Main(Session &session)
     if (!readRegionalSettings(session))
         return nullptr;
     if (const Result registered = registerDataSource(session.settings, QString()); !registered)
-        session.messages->box(registered.message(), u"ZELVANTOR"_s);
+        session.messages->box(Causes::message(registered, session.localisation), u"ZELVANTOR"_s);
     if (!findStore(session))
         return nullptr;
     {
@@ -88,6 +108,8 @@ std::unique_ptr<frmMain> Main(Session &session)
         if (!login.LoginSucceeded)
             return nullptr;
     }
+    if (session.gCnn.isReadOnly())
+        session.messages->box(session.localisation.Traduire(u"RUN"_s, u"readonly"_s), u"ZELVANTOR"_s);
     frmSplash splash;
     splash.show();
     splash.repaint();

@@ -2,6 +2,7 @@
 
 #include "platform/Messages.h"
 #include "shell/ApplicationFolder.h"
+#include "shell/Causes.h"
 #include "ui_frmDbPath.h"
 
 #include <QDir>
@@ -42,6 +43,13 @@ frmDbPath::frmDbPath(Session &screenSession, QWidget *parent)
 
 frmDbPath::~frmDbPath() = default;
 
+/// The translations of this window, opened from it, end with a flag of their own.
+void frmDbPath::done(int result)
+{
+    session().gbValider = result == Accepted;
+    Screen::done(result);
+}
+
 void frmDbPath::choose(const QString &folder)
 {
     m_folder = folder;
@@ -60,12 +68,11 @@ void frmDbPath::validate()
 {
     session().gsDbPath = m_folder + u"/zelvantor.mdb"_s;
     if (const Result saved = session().saveSetting(u"DB"_s, session().gsDbPath); !saved) {
-        session().messages->box(saved.message(), u"frmDbPath"_s);
+        session().messages->box(Causes::message(saved, session().localisation), u"frmDbPath"_s);
         return;
     }
     if (m_ui->optExemple->isChecked())
         if (const Result taken = ApplicationFolder::takeSampleSettings(session()); !taken)
-            session().messages->box(taken.message(), u"frmDbPath"_s);
-    session().gbValider = true;
+            session().messages->box(Causes::message(taken, session().localisation), u"frmDbPath"_s);
     accept();
 }

@@ -15,6 +15,8 @@ public:
     frmDbPath(Session &session, QWidget *parent);
     ~frmDbPath() override;
 
+    void done(int result) override;
+
 private:
     void choose(const QString &folder);
     void showDrive();

@@ -2,6 +2,7 @@
 
 #include "platform/Messages.h"
 #include "shell/BuiltInTexts.h"
+#include "shell/Causes.h"
 #include "shell/Login.h"
 #include "ui_frmPW.h"
 
@@ -31,7 +32,7 @@ void frmPW::change()
         return;
     }
     if (const Result written = AdminPassword::write(session().settings, next); !written) {
-        session().messages->box(written.message(), u"frmPW"_s);
+        session().messages->box(Causes::message(written, session().localisation), u"frmPW"_s);
         return;
     }
     accept();

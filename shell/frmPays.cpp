@@ -1,6 +1,7 @@
 #include "shell/frmPays.h"
 
 #include "platform/Messages.h"
+#include "shell/Causes.h"
 #include "ui_frmPays.h"
 
 using namespace Qt::StringLiterals;
@@ -44,17 +45,22 @@ void frmPays::validate()
         if (list.currentIndex() >= 0)
             value = keys[size_t(list.currentIndex())];
     };
-    take(*m_ui->cbPays, m_colPays, session().gsPays);
-    take(*m_ui->cbLangue, m_colLangue, session().localisation.gsLangue);
-    take(*m_ui->cbMonnaie, m_colMonnaie, session().gsMonnaie);
-    const std::pair<QString, QString> values[] = {{u"PAYS"_s, session().gsPays},
-                                                  {u"LANGUE"_s, session().localisation.gsLangue},
-                                                  {u"MONNAIE"_s, session().gsMonnaie}};
+    QString country = session().gsPays;
+    QString language = session().localisation.gsLangue;
+    QString currency = session().gsMonnaie;
+    take(*m_ui->cbPays, m_colPays, country);
+    take(*m_ui->cbLangue, m_colLangue, language);
+    take(*m_ui->cbMonnaie, m_colMonnaie, currency);
+    const std::pair<QString, QString> values[] = {
+        {u"PAYS"_s, country}, {u"LANGUE"_s, language}, {u"MONNAIE"_s, currency}};
     for (const auto &[name, value] : values) {
         if (const Result saved = session().saveSetting(name, value); !saved) {
-            session().messages->box(saved.message(), u"frmPays"_s);
+            session().messages->box(Causes::message(saved, session().localisation), u"frmPays"_s);
             return;
         }
     }
+    session().gsPays = country;
+    session().localisation.gsLangue = language;
+    session().gsMonnaie = currency;
     accept();
 }

@@ -1,6 +1,8 @@
+#include "shell/Login.h"
 #include "shell/Main.h"
 #include "shell/frmMain.h"
 #include "tests/desk/Desk.h"
+#include "tests/support/Files.h"
 #include "tests/support/Suite.h"
 
 #include <QComboBox>
@@ -36,6 +38,7 @@ private Q_SLOTS:
     void closedRegionalWindowIsAskedAgain();
     void refusedPathOrLoginEndsSilently();
     void laterStartAsksNothing();
+    void brokenSettingsAreToldAndKept();
     void missingDeliveredStoreEndsTheStart();
 };
 
@@ -99,10 +102,12 @@ void StartTest::refusedPathOrLoginEndsSilently()
         desk.setSetting(name, name == u"MONNAIE"_s ? u"EUR"_s : u"FR"_s);
     {
         Visitor visitor;
-        visitor.whenShown(u"frmDbPath"_s, [](QWidget &window) {
+        visitor.whenShown(u"frmDbPath"_s, [&desk](QWidget &window) {
             control<QRadioButton>(window, "optVide").click();
+            QVERIFY(desk.screens.translate(&window));
             press(window, "cmdFermer");
         });
+        visitor.whenShown(u"frmTrad"_s, [](QWidget &window) { press(window, "cmdValider0"); });
         QVERIFY(!Main(desk.session));
         QCOMPARE(visitor.waiting(), QStringList());
         QCOMPARE(desk.setting(u"DB"_s), QString());
@@ -135,6 +140,31 @@ void StartTest::laterStartAsksNothing()
     QVERIFY(window);
     QCOMPARE(window->windowTitle(), u"ZELVANTOR"_s);
     QVERIFY(!desk.session.gbPremierLancement);
+}
+
+void StartTest::brokenSettingsAreToldAndKept()
+{
+    Desk desk;
+    const QByteArray rubbish("\x01\x02\xff[ZELVANTOR\nmk\n", 18);
+    for (const QString &name : {u"DORNELIQUE.ini"_s, u"BRAXOSOFT.ini"_s})
+        Files::write(desk.path(u"settings/"_s + name), rubbish);
+    Visitor visitor;
+    visitor.whenShown(u"frmPays"_s, [](QWidget &window) {
+        control<QComboBox>(window, "cbLangue").setCurrentText(u"Deutsch"_s);
+        press(window, "cmdValider");
+        QVERIFY(!window.isVisible());
+    });
+    visitor.whenShown(u"frmDbPath"_s, [](QWidget &window) { press(window, "cmdFermer"); });
+    QVERIFY(!Main(desk.session));
+    QCOMPARE(visitor.waiting(), QStringList());
+    QCOMPARE(desk.messages.boxes.size(), 2);
+    QVERIFY(desk.messages.boxes[0].contains(u"DORNELIQUE.ini.bad"_s));
+    QCOMPARE(Files::read(desk.path(u"settings/DORNELIQUE.ini.bad"_s)), rubbish);
+    QCOMPARE(desk.setting(u"LANGUE"_s), u"DE"_s);
+    desk.session.gsDbPath = desk.path(u"data/zelvantor.mdb"_s);
+    const QString password = AdminPassword::read(desk.settings);
+    QVERIFY(logIn(desk.session, u"admin"_s, QString(), password) == LoginStep::PasswordMissing);
+    QVERIFY(logIn(desk.session, u"admin"_s, u"x"_s, password) == LoginStep::AdminRefused);
 }
 
 void StartTest::missingDeliveredStoreEndsTheStart()

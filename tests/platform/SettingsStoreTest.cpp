@@ -2,6 +2,7 @@
 #include "tests/support/Files.h"
 #include "tests/support/Suite.h"
 
+#include <QDir>
 #include <QFileInfo>
 #include <QTemporaryDir>
 #include <QTest>
@@ -19,6 +20,7 @@ private Q_SLOTS:
     void unwritableFolder();
     void damagedFile_data();
     void damagedFile();
+    void refusedValueIsNotStored();
 
 private:
     QTemporaryDir m_folder;
@@ -120,6 +122,27 @@ void SettingsStoreTest::damagedFile()
     QVERIFY(!store.check(u"A"_s));
     QCOMPARE(store.value(u"A"_s, u"ZELVANTOR"_s, u"LANGUE"_s, u"absent"_s), u"absent"_s);
     QCOMPARE(Files::read(folder.filePath(u"A.ini"_s)), bytes);
+    SettingsStore writing(folder.path());
+    for (const QString &value : {u"FR"_s, u"DE"_s})
+        QVERIFY(writing.save(u"A"_s, u"ZELVANTOR"_s, u"LANGUE"_s, value));
+    QVERIFY(store.check(u"A"_s));
+    QCOMPARE(store.value(u"A"_s, u"ZELVANTOR"_s, u"LANGUE"_s), u"DE"_s);
+    QCOMPARE(Files::read(folder.filePath(u"A.ini.bad"_s)), bytes);
+}
+
+void SettingsStoreTest::refusedValueIsNotStored()
+{
+    QTemporaryDir folder;
+    SettingsStore store(folder.filePath(u"sub"_s));
+    QVERIFY(store.save(u"A"_s, u"S"_s, u"x"_s, u"1"_s));
+    const QString path = folder.filePath(u"sub/A.ini"_s);
+    QVERIFY(QFile::rename(path, path + u'2') && QDir().mkpath(path + u"/below"_s));
+    QVERIFY(!store.save(u"A"_s, u"S"_s, u"x"_s, u"2"_s));
+    QVERIFY(!store.save(u"A"_s, u"S"_s, u"y"_s, u"2"_s));
+    QVERIFY(QDir(path).removeRecursively() && QFile::rename(path + u'2', path));
+    QCOMPARE(store.value(u"A"_s, u"S"_s, u"x"_s), u"1"_s);
+    QVERIFY(store.save(u"A"_s, u"S"_s, u"z"_s, u"3"_s));
+    QVERIFY(!Files::read(path).contains('2'));
 }
 
 ZELVANTOR_SUITE(SettingsStoreTest)
