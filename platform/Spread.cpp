@@ -201,7 +201,17 @@ void Spread::commitData(QWidget *editor)
 
 void Spread::closeEditor(QWidget *editor, QAbstractItemDelegate::EndEditHint hint)
 {
-    QTableView::closeEditor(editor, hint);
+    const bool forth = hint == QAbstractItemDelegate::EditNextItem;
+    const QList<int> columns = visibleColumns();
+    const QModelIndex end = !forth || columns.isEmpty() ? m_cells->index(0, columns.value(0) - 1)
+                                                        : m_cells->index(MaxRows() - 1, columns.last() - 1);
+    if ((forth || hint == QAbstractItemDelegate::EditPreviousItem) && currentIndex() == end) {
+        // The table would begin again at its other end, and the key would never leave it.
+        QTableView::closeEditor(editor, QAbstractItemDelegate::NoHint);
+        focusNextPrevChild(forth);
+    } else {
+        QTableView::closeEditor(editor, hint);
+    }
     leaveIfFocusIsGone();
 }
 

@@ -13,6 +13,7 @@
 #include <QHeaderView>
 #include <QImageReader>
 #include <QSet>
+#include <QTabBar>
 #include <QTimer>
 
 using namespace Qt::StringLiterals;
@@ -24,6 +25,7 @@ enum ShippingColumn { MethodName = 1, MethodValue };
 
 constexpr int themes = 30;
 constexpr int shippingRows = 8;
+constexpr int shippingRowHeight = 25;
 constexpr int controlRole = Qt::UserRole;
 constexpr QSize themePicture(720, 44);
 
@@ -42,6 +44,8 @@ frmCatalogue::frmCatalogue(Session &screenSession, QWidget *parent)
       m_folder(screenSession.applicationFolder + u"/temp"_s, m_report)
 {
     m_ui->setupUi(this);
+    for (QTabWidget *tabs : {m_ui->SSTab1, m_ui->SSTab2})
+        tabs->tabBar()->setAccessibleName(tabs->accessibleName());
     m_data = readShopData(session(), {}, m_report);
     fillLanguages();
     fillSelection();
@@ -137,6 +141,8 @@ void frmCatalogue::fillShipping()
     grid.setText(MethodValue, 0, u"Valeur"_s);
     grid.setColumnWidth(MethodName - 1, 240);
     grid.setEditTriggers(QAbstractItemView::AllEditTriggers);
+    grid.verticalHeader()->setDefaultSectionSize(shippingRowHeight);
+    grid.setMinimumHeight((shippingRows + 1) * shippingRowHeight + 2 * grid.frameWidth());
 }
 
 ShopSettings frmCatalogue::takeSettings() const
