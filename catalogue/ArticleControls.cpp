@@ -1,12 +1,12 @@
 #include "catalogue/ArticleControls.h"
 
 #include "platform/NumberBox.h"
+#include "platform/OneLine.h"
 
 #include <QCheckBox>
 #include <QLabel>
 #include <QListWidget>
 #include <QPlainTextEdit>
-#include <QRegularExpression>
 #include <QTabWidget>
 
 using namespace Qt::StringLiterals;
@@ -76,11 +76,13 @@ void showFromStart(QLineEdit &box, const QString &text)
     box.setCursorPosition(0);
 }
 
-/// A pasted line break or tab has no place in a box of one line.
-QString oneLine(QString text)
+/// Line breaks as the pages have them; no other control character may stand in a statement.
+QString manyLines(const QPlainTextEdit &box)
 {
-    static const QRegularExpression breaks(u"[\\x00-\\x1f\\x{2028}\\x{2029}]+"_s);
-    return text.replace(breaks, u" "_s);
+    QStringList lines = box.toPlainText().split(u'\n');
+    for (QString &line : lines)
+        line = oneLine(line);
+    return lines.join(u"\r\n"_s);
 }
 
 } // namespace
@@ -114,9 +116,8 @@ void ArticleControls::take(Article &article, const QWidget &screen)
         article.setText(pair.column, find<NumberBox>(screen, pair.control).text());
     for (int i = 0; i < Article::languages().size(); ++i) {
         article.setText(nameColumn(screen, i), oneLine(find<QLineEdit>(screen, u"txtNom_%1"_s.arg(i)).text()));
-        article.setText(
-            descriptionColumn(screen, i),
-            find<QPlainTextEdit>(screen, u"txtObservation_%1"_s.arg(i)).toPlainText().replace(u"\n"_s, u"\r\n"_s));
+        article.setText(descriptionColumn(screen, i),
+                        manyLines(find<QPlainTextEdit>(screen, u"txtObservation_%1"_s.arg(i))));
     }
     for (const Pair &pair : ticks())
         article.setNumber(pair.column, find<QCheckBox>(screen, pair.control).isChecked() ? 1 : 0);

@@ -3,6 +3,8 @@
 #include "platform/NumberLocale.h"
 #include "platform/Spread.h"
 
+#include <QScopedValueRollback>
+
 using namespace Qt::StringLiterals;
 
 namespace {
@@ -44,6 +46,7 @@ void BandGrid::chooseRate(int position)
 
 void BandGrid::show(const std::vector<ProductRows::Band> &bands)
 {
+    const QScopedValueRollback writing(m_settled, false);
     const auto give = [this](int column, int row, const QString &text) {
         if (!text.isEmpty())
             m_grid.setText(column, row, text);
@@ -79,8 +82,9 @@ void BandGrid::openNextBand(int column, int row)
 {
     bool isNumber = false;
     const int end = m_grid.text(column, row).toInt(&isNumber);
-    if (column != QteMax || row > lastOpeningRow || !isNumber)
+    if (!m_settled || column != QteMax || row > lastOpeningRow || !isNumber)
         return;
+    const QScopedValueRollback writing(m_settled, false);
     m_grid.setText(QteMin, row + 1, QString::number(end + 1));
     m_grid.setText(QteMax, row + 1, openEnd);
 }

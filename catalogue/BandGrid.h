@@ -26,4 +26,5 @@ private:
     void followPrice(int column, int row);
 
     Spread &m_grid;
+    bool m_settled = true; ///< what the program writes opens no band
 };

@@ -7,6 +7,8 @@
 #include "platform/SpreadPrinter.h"
 #include "shell/Session.h"
 
+#include <QLocale>
+
 using namespace Qt::StringLiterals;
 
 namespace {
@@ -46,9 +48,11 @@ void ListOutput::imprimer(const Spread &grid, const Session &session, QWidget *p
 {
     if (grid.MaxRows() == 0)
         return;
-    const QString header = u"/fb1Date: /fb0"_s + session.clock.today().toString(u"dd MMM yyyy"_s)
-                           + u"/n/fb1Operateur: /fb0"_s + PrintCodes::escape(session.gsLogin)
-                           + u"/c/fn\"Arial\"/fz\"12\"/fb1/fu1Stocks/n/n"_s;
+    const QString header =
+        u"/fb1Date: /fb0"_s
+        + QLocale(session.localisation.gsLangue.toLower()).toString(session.clock.today(), u"dd MMM yyyy"_s)
+        + u"/n/fb1Operateur: /fb0"_s + PrintCodes::escape(session.gsLogin)
+        + u"/c/fn\"Arial\"/fz\"12\"/fb1/fu1Stocks/n/n"_s;
     SpreadPrintJob job{header, u"Pages:/p///pc"_s, u"Impression Catalog"_s, u"Printing..."_s};
     SpreadPrinter(grid, std::move(job)).print(parent);
 }

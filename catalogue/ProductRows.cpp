@@ -2,6 +2,7 @@
 
 #include "catalogue/Article.h"
 #include "data/Connection.h"
+#include "platform/OneLine.h"
 
 using namespace Qt::StringLiterals;
 
@@ -76,6 +77,6 @@ std::vector<Result> ProductRows::writeAttributes(Connection &gCnn, int glIdProdu
     QStringList statements{u"DELETE REF_EXTENSION.* FROM REF_EXTENSION WHERE idRef_produit = "_s + product + u";"_s};
     for (const Attribute &attribute : attributes)
         statements << u"INSERT INTO REF_EXTENSION (idRef_Categorie, idRef_produit, sValeur) Values ("_s + attribute.key
-                          + u", "_s + product + u" , "_s + ProtegerTexte(attribute.sValeur) + u"); "_s;
+                          + u", "_s + product + u" , "_s + ProtegerTexte(oneLine(attribute.sValeur)) + u"); "_s;
     return gCnn.executeAll(statements);
 }

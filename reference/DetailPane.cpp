@@ -2,6 +2,7 @@
 
 #include "data/Connection.h"
 #include "platform/Messages.h"
+#include "platform/OneLine.h"
 #include "platform/Spread.h"
 #include "shell/Session.h"
 
@@ -130,7 +131,7 @@ bool DetailPane::hasLabel()
 
 DetailRow DetailPane::takeBoxes() const
 {
-    DetailRow row{m_code->text().trimmed(), m_label->text().trimmed(), {}, {}, {}};
+    DetailRow row{oneLine(m_code->text()).trimmed(), oneLine(m_label->text()).trimmed(), {}, {}, {}};
     if (m_list && m_list->currentIndex() >= 0) {
         row.sListe = m_lists[size_t(m_list->currentIndex())].sListe;
         row.idListe = m_lists[size_t(m_list->currentIndex())].idListe;

@@ -319,6 +319,7 @@ void ArticleTest::bandsOpenAndFollow()
     grid.setText(4, 1, u"1"_s);
     grid.setText(5, 1, u"9"_s);
     QCOMPARE(grid.text(4, 2) + u'-' + grid.text(5, 2), u"10-999999"_s);
+    QCOMPARE(grid.text(4, 3), QString()); // the next band opens no further one
     grid.setText(5, 5, u"50"_s);
     QCOMPARE(grid.text(4, 6), QString());
     leave(1, 3, u"10"_s); // no quantities: lost with a box; the others go in
@@ -400,7 +401,7 @@ void ArticleTest::oddEntries()
     price.clear();
     QTest::keyClick(&price, Qt::Key_Return);
     QVERIFY(!price.number());
-    const QString script = u"名前 اسم 🧺\tתו\r\nsuite"_s;
+    const QString script = u"名前 اسم 🧺\tתו\r\nsuite"_s + QChar(0);
     control<QLineEdit>(*window, "txtNom_0").setText(script);
     control<QLineEdit>(*window, "txtLibre1").setText(QString(30000, u'x'));
     control<QPushButton>(*window, "cmdValider0").click();
