@@ -48,7 +48,7 @@ frmMaterial::frmMaterial(Session &screenSession, bool bCategorie, QWidget *paren
 
 frmMaterial::~frmMaterial() = default;
 
-void frmMaterial::show(bool bCategorie, const QString &method)
+void frmMaterial::showTree(bool bCategorie, const QString &method)
 {
     Result read;
     m_nodes = readReferenceTree(session().gCnn, bCategorie, read);

@@ -19,9 +19,9 @@ public:
 
 private:
     /// Rebuild the tree from their table.
-    void AfficherMaterial() { show(false, QStringLiteral("AfficherMaterial")); }
-    void AfficherCategorie() { show(true, QStringLiteral("AfficherCategorie")); }
-    void show(bool bCategorie, const QString &method);
+    void AfficherMaterial() { showTree(false, QStringLiteral("AfficherMaterial")); }
+    void AfficherCategorie() { showTree(true, QStringLiteral("AfficherCategorie")); }
+    void showTree(bool bCategorie, const QString &method);
     void rebuild() { m_bCategorie ? AfficherCategorie() : AfficherMaterial(); }
     void ExpandRacine();
     void CloseTV();
