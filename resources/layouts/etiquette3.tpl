@@ -1,0 +1,17 @@
+{
+  "title": "3 colonnes : A4 Avery L7160, 21 étiquettes de 63,5 x 38,1 mm",
+  "page": { "width": 2100, "height": 2970, "margins": [40, 40, 40, 40] },
+  "fields": { "Ean13": "", "Nom": "", "PrixTTC": "" },
+  "cells": {
+    "first": [72.5, 151.5, 707.5, 532.5],
+    "columns": 3,
+    "rows": 7,
+    "gapX": 25,
+    "gapY": 0,
+    "objects": [
+      { "type": "text", "box": [35, 30, 600, 115], "text": "$(Nom)", "size": 9, "smallest": 6, "bold": true, "fit": "shrink" },
+      { "type": "ean13", "box": [35, 130, 455, 270], "text": "$(Ean13)", "align": "left" },
+      { "type": "text", "box": [35, 282, 600, 352], "text": "$(PrixTTC)", "when": "[0-9]", "size": 16, "smallest": 8, "bold": true, "align": "right", "valign": "bottom", "fit": "shrink" }
+    ]
+  }
+}
