@@ -3,6 +3,7 @@
 #include "catalogue/frmDlgOpenDoc.h"
 #include "catalogue/frmListProduct.h"
 #include "reference/frmMaterial.h"
+#include "reference/frmEtiquette.h"
 #include "reference/frmTrad.h"
 #include "shop/frmCatalogue.h"
 #include "shop/frmInfo.h"
@@ -71,6 +72,14 @@ std::optional<PickedFile> DeskScreens::pickPicture(QWidget *parent)
     if (result != QDialog::Accepted)
         return {};
     return PickedFile{dialog.chosenPath(), QFileInfo(dialog.chosenPath()).fileName()};
+}
+
+void DeskScreens::showLabels(const LabelProduct &product, QWidget *parent)
+{
+    const QString noted = m_labelLanguage.isEmpty() ? m_session.localisation.gsLangue : m_labelLanguage;
+    frmEtiquette window(m_session, product, noted, parent);
+    window.exec();
+    m_labelLanguage = window.sLangue();
 }
 
 bool DeskScreens::translate(QWidget *window)

@@ -16,9 +16,11 @@ public:
     void showTree(QWidget *parent, bool bCategorie) override;
     bool showFtp(QWidget *parent) override;
     std::optional<PickedFile> pickPicture(QWidget *parent) override;
+    void showLabels(const LabelProduct &product, QWidget *parent) override;
     bool translate(QWidget *window) override;
 
 private:
     Session &m_session;
     QPointer<QWidget> m_products; ///< gone when the list has been closed
+    QString m_labelLanguage;      ///< the one last chosen for labels in this session
 };

@@ -4,6 +4,8 @@
 #include "platform/OneLine.h"
 
 #include <QCheckBox>
+#include <QComboBox>
+#include <QGroupBox>
 #include <QLabel>
 #include <QListWidget>
 #include <QPlainTextEdit>
@@ -133,4 +135,46 @@ void ArticleControls::clear(QWidget &screen)
         box->clear();
     for (QListWidget *list : screen.findChildren<QListWidget *>())
         list->clear();
+}
+
+void ArticleControls::giveCurrency(const QString &gsMonnaie, QWidget &screen)
+{
+    const QString currency = gsMonnaie + u')';
+    for (const QString &name : {u"frAchat"_s, u"frVente"_s}) {
+        auto &frame = find<QGroupBox>(screen, name);
+        frame.setTitle(frame.title() + currency);
+    }
+    auto &label = find<QLabel>(screen, u"lbPrixRevient"_s);
+    label.setText(label.text() + currency);
+}
+
+void ArticleControls::keepCapital(QLineEdit &box)
+{
+    QObject::connect(&box, &QLineEdit::textEdited, &box, [&box](QString text) {
+        const int cursor = box.cursorPosition();
+        for (QChar &letter : text)
+            if (letter >= u'a' && letter <= u'z')
+                letter = letter.toUpper();
+        box.setText(text);
+        box.setCursorPosition(cursor);
+    });
+}
+
+std::optional<ArticleControls::Missing> ArticleControls::missing(const QWidget &screen)
+{
+    const auto isChosen = [&](const QString &name) { return find<QComboBox>(screen, name).currentIndex() >= 0; };
+    const auto isTyped = [&](const QString &name) { return !find<QLineEdit>(screen, name).text().trimmed().isEmpty(); };
+    struct Need {
+        bool met;
+        QString message;
+        QString control;
+    };
+    const Need needs[] = {{isChosen(u"cbFamille"_s), u"114"_s, u"cbFamille"_s},
+                          {isChosen(u"cbCategory"_s), u"115"_s, u"cbCategory"_s},
+                          {isTyped(u"txtRef_Article"_s), u"117"_s, u"txtRef_Article"_s},
+                          {isTyped(u"txtNom_0"_s), u"118"_s, u"txtNom_0"_s}};
+    for (const Need &need : needs)
+        if (!need.met)
+            return Missing{need.message, &find<QWidget>(screen, need.control)};
+    return {};
 }

@@ -1,6 +1,9 @@
 #pragma once
 #include "catalogue/Article.h"
 
+#include <optional>
+
+class QLineEdit;
 class QWidget;
 
 /// Carries the columns of a product that stand in an edit box of their own to the boxes and back. Names and
@@ -13,5 +16,16 @@ void show(const Article &article, QWidget &screen);
 void take(Article &article, const QWidget &screen);
 /// Empties every edit box of the screen.
 void clear(QWidget &screen);
+/// Adds the currency to the titles that end in an open bracket.
+void giveCurrency(const QString &gsMonnaie, QWidget &screen);
+/// Letters from a to z become capitals while they are typed.
+void keepCapital(QLineEdit &box);
+
+/// The first entry without which a product is not saved.
+struct Missing {
+    QString message; ///< its key
+    QWidget *control;
+};
+std::optional<Missing> missing(const QWidget &screen);
 
 } // namespace ArticleControls

@@ -5,11 +5,14 @@
 #include "catalogue/AttributeGrid.h"
 #include "catalogue/BandGrid.h"
 #include "catalogue/Ean13.h"
+#include "catalogue/GenererFiche.h"
 #include "catalogue/KeyCombo.h"
 #include "catalogue/PriceBlock.h"
 #include "catalogue/ProductNumber.h"
+#include "catalogue/ProductPaper.h"
 #include "platform/BarcodeReader.h"
 #include "platform/Messages.h"
+#include "shell/Screens.h"
 #include "ui_frmArticle.h"
 
 using namespace Qt::StringLiterals;
@@ -36,7 +39,7 @@ frmArticle::frmArticle(Session &screenSession, QWidget *parent)
     m_prices->chain().type(Field::Qte, 1);
     m_ui->txtSeuil->setNumber(1);
     opened();
-    giveCurrency();
+    ArticleControls::giveCurrency(session().gsMonnaie, *this);
     wire();
     InitPico();
     fillCombos();
@@ -49,14 +52,6 @@ frmArticle::~frmArticle() = default;
 bool frmArticle::isMode(Mode mode) const
 {
     return session().giModeProduit == mode;
-}
-
-void frmArticle::giveCurrency()
-{
-    const QString currency = session().gsMonnaie + u')';
-    m_ui->frAchat->setTitle(m_ui->frAchat->title() + currency);
-    m_ui->frVente->setTitle(m_ui->frVente->title() + currency);
-    m_ui->lbPrixRevient->setText(m_ui->lbPrixRevient->text() + currency);
 }
 
 void frmArticle::fillCombos()
@@ -98,14 +93,7 @@ void frmArticle::wire()
                     m_ui->cmdValider0->setEnabled(true);
                     m_ui->cmdFiche->setEnabled(true);
                 });
-    connect(m_ui->txtMarque, &QLineEdit::textEdited, this, [this](QString text) {
-        const int cursor = m_ui->txtMarque->cursorPosition();
-        for (QChar &letter : text)
-            if (letter >= u'a' && letter <= u'z')
-                letter = letter.toUpper();
-        m_ui->txtMarque->setText(text);
-        m_ui->txtMarque->setCursorPosition(cursor);
-    });
+    ArticleControls::keepCapital(*m_ui->txtMarque);
     connect(m_ui->cmdTrans, &QToolButton::clicked, this,
             [this] { m_ui->txtEan->setText(Ean13::fromReference(m_ui->txtRef_Article->text())); });
     connect(m_reader, &BarcodeReader::codeRead, m_ui->txtEan, &QLineEdit::setText);
@@ -114,6 +102,9 @@ void frmArticle::wire()
         if (shown)
             m_ui->fpSpread2->setActiveCell(1, 1);
     });
+    connect(m_ui->cmdEtiquette, &QPushButton::clicked, this,
+            [this] { session().screens->showLabels(ProductPaper::label(*this), this); });
+    connect(m_ui->cmdFiche, &QPushButton::clicked, this, [this] { GenererFiche(*this, session(), VPE1); });
     connect(m_ui->cmdValider0, &QPushButton::clicked, this, &frmArticle::save);
     connect(m_ui->cmdFermer, &QPushButton::clicked, this, &frmArticle::reject);
 }
@@ -246,25 +237,12 @@ void frmArticle::chooseTvaV()
 /// Tells what is missing, and leads to it.
 bool frmArticle::isComplete()
 {
-    struct Need {
-        bool met;
-        const char16_t *message;
-        QWidget *control;
-    };
-    const Need needs[] = {
-        {m_ui->cbFamille->currentIndex() >= 0, u"114", m_ui->cbFamille},
-        {m_ui->cbCategory->currentIndex() >= 0, u"115", m_ui->cbCategory},
-        {!m_ui->txtRef_Article->text().trimmed().isEmpty(), u"117", m_ui->txtRef_Article},
-        {!m_ui->txtNom_0->text().trimmed().isEmpty(), u"118", m_ui->txtNom_0},
-    };
-    for (const Need &need : needs) {
-        if (need.met)
-            continue;
-        session().messages->box(message(QString::fromUtf16(need.message)), title);
-        need.control->setFocus();
-        return false;
+    const std::optional<ArticleControls::Missing> missing = ArticleControls::missing(*this);
+    if (missing) {
+        session().messages->box(message(missing->message), title);
+        missing->control->setFocus();
     }
-    return true;
+    return !missing;
 }
 
 /// Row, attributes and prices reach the store as one action; its failures are told when the store is free again.
@@ -345,7 +323,8 @@ void frmArticle::saved()
         m_stored = Article::read(session().gCnn, session().glIdProduit, read);
         m_ui->cmdEtiquette->setEnabled(true);
     } else {
-        session().messages->question(message(u"119"_s), title);
+        if (session().messages->question(message(u"119"_s), title))
+            session().screens->showLabels(ProductPaper::label(*this), this);
         Initialiser();
     }
     m_ui->cmdValider0->setEnabled(false);

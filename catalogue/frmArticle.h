@@ -1,5 +1,6 @@
 #pragma once
 #include "catalogue/Article.h"
+#include "platform/PrintEngine.h"
 #include "shell/Screen.h"
 
 #include <memory>
@@ -28,7 +29,6 @@ private:
 
     bool isMode(Mode mode) const;
     void fillCombos();
-    void giveCurrency();
     void wire();
     void openInMode();
     void InitPico();
@@ -62,6 +62,7 @@ private:
     std::unique_ptr<KeyCombo> m_tvaA;
     std::unique_ptr<KeyCombo> m_tvaV;
     BarcodeReader *m_reader;
+    PrintEngine VPE1;
     std::optional<Article> m_stored; ///< as it was when this screen last read or wrote it
     QString m_sCategorie;            ///< the shown names, written beside the keys
     QString m_sFamille;

@@ -34,7 +34,7 @@ const QMap<Kind, QStringList> keysOfKind = {{Kind::Text,
                                             {Kind::Picture, {u"file"_s, u"align"_s, u"valign"_s}},
                                             {Kind::Box, {u"pen"_s, u"colour"_s, u"fill"_s}},
                                             {Kind::Line, {u"pen"_s, u"colour"_s}},
-                                            {Kind::Ean13, {u"text"_s, u"digits"_s, u"align"_s}}};
+                                            {Kind::Ean13, {u"text"_s, u"when"_s, u"digits"_s, u"align"_s}}};
 
 QString quoted(const QString &text)
 {

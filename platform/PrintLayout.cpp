@@ -4,7 +4,6 @@
 
 #include <QFile>
 #include <QFileInfo>
-#include <QRegularExpression>
 
 using namespace Qt::StringLiterals;
 
@@ -37,15 +36,16 @@ int PrintDocument::pages() const
 
 QString PrintDocument::filled(const QString &text, const PrintFields &cell) const
 {
-    static const QRegularExpression field(u"\\$\\(([^)]*)\\)"_s);
     QString all;
     qsizetype end = 0;
-    for (auto found = field.globalMatch(text); found.hasNext();) {
-        const QRegularExpressionMatch match = found.next();
-        const QString key = match.captured(1);
-        all += QStringView(text).mid(end, match.capturedStart() - end);
+    for (qsizetype start = text.indexOf(u"$("_s); start >= 0; start = text.indexOf(u"$("_s, end)) {
+        const qsizetype close = text.indexOf(u')', start);
+        if (close < 0)
+            break;
+        const QString key = text.mid(start + 2, close - start - 2);
+        all += QStringView(text).mid(end, start - end);
         all += cell.value(key, fields.value(key, layout.fields.value(key)));
-        end = match.capturedEnd();
+        end = close + 1;
     }
     return all + QStringView(text).mid(end);
 }

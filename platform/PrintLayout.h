@@ -20,9 +20,10 @@ struct PrintObject {
     enum class Fit { Wrap, Shrink, Cut };
 
     Kind kind = Kind::Text;
-    QRectF place; ///< of a line its two ends, top left and bottom right
-    QString text; ///< with `$(Field)`; of a picture the file
-    QString when; ///< a regular expression: printed where it matches the text, empty for always
+    QRectF place;           ///< of a line its two ends, top left and bottom right
+    QString text;           ///< with `$(Field)`; of a picture the file
+    bool isLiteral = false; ///< a text in which `$(` begins no field
+    QString when;           ///< a regular expression: printed where it matches the text, empty for always
     Fit fit = Fit::Wrap;
     double points = 9;
     double smallest = 5; ///< points that shrinking goes down to

@@ -100,7 +100,7 @@ void PrintPainter::paintPage(int page)
 
 void PrintPainter::paintObject(const PrintObject &object, const QPointF &corner, const PrintFields &cell)
 {
-    const QString text = object.text.contains(u"$("_s) ? m_document.filled(object.text, cell) : object.text;
+    const QString text = object.isLiteral ? object.text : m_document.filled(object.text, cell);
     if (!object.when.isEmpty() && !QRegularExpression(object.when).match(text).hasMatch())
         return;
     const QRectF place = dots(object.place.translated(corner));

@@ -59,6 +59,7 @@ void PrintPreview::fillBar(QToolBar &bar, const PreviewTexts &texts)
         command->setObjectName(name);
         command->setShortcut(keys);
         connect(command, &QAction::triggered, this, action);
+        bar.widgetForAction(command)->setAccessibleName(text);
         return command;
     };
     QAction *printing = add(u"acPrint"_s, texts.print, QKeySequence::Print, [this] { print(); });
@@ -68,14 +69,16 @@ void PrintPreview::fillBar(QToolBar &bar, const PreviewTexts &texts)
     }
     add(u"acPdf"_s, texts.savePdf, QKeySequence::Save, [this, title = texts.savePdf] { savePdf(title); });
     bar.addSeparator();
-    add(u"acZoomIn"_s, texts.zoomIn, QKeySequence::ZoomIn, [this] { m_pages->zoomIn(); });
-    add(u"acZoomOut"_s, texts.zoomOut, QKeySequence::ZoomOut, [this] { m_pages->zoomOut(); });
+    add(u"acZoomIn"_s, texts.zoomIn, QKeySequence::ZoomIn, [this] { m_pages->zoomIn(); })->setIconText(u"+"_s);
+    add(u"acZoomOut"_s, texts.zoomOut, QKeySequence::ZoomOut, [this] { m_pages->zoomOut(); })->setIconText(u"−"_s);
     add(u"acFitWidth"_s, texts.fitWidth, {}, [this] { m_pages->setZoomMode(QPrintPreviewWidget::FitToWidth); });
     add(u"acWholePage"_s, texts.wholePage, {}, [this] { m_pages->setZoomMode(QPrintPreviewWidget::FitInView); });
     bar.addSeparator();
-    add(u"acPrevious"_s, texts.previous, Qt::Key_PageUp, [this] { turnTo(m_pages->currentPage() - 1); });
+    add(u"acPrevious"_s, texts.previous, Qt::Key_PageUp, [this] {
+        turnTo(m_pages->currentPage() - 1);
+    })->setIconText(u"‹"_s);
     bar.addWidget(m_position);
-    add(u"acNext"_s, texts.next, Qt::Key_PageDown, [this] { turnTo(m_pages->currentPage() + 1); });
+    add(u"acNext"_s, texts.next, Qt::Key_PageDown, [this] { turnTo(m_pages->currentPage() + 1); })->setIconText(u"›"_s);
     bar.addSeparator();
     add(u"acClose"_s, texts.close, QKeySequence::Close, [this] { close(); });
 }

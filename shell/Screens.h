@@ -1,4 +1,5 @@
 #pragma once
+#include <QMap>
 #include <QString>
 #include <optional>
 
@@ -9,6 +10,15 @@ class QWidget;
 struct PickedFile {
     QString path;
     QString name;
+};
+
+/// The product of a label, as it stands on its screen.
+struct LabelProduct {
+    QString Ean13;
+    QString RefArticle;
+    QString price;
+    QMap<QString, QString> names; ///< by language code
+    QMap<QString, QString> descriptions;
 };
 
 /// Opens the screens of other rooms for a room that may not know them.
@@ -26,6 +36,8 @@ public:
     virtual bool showFtp(QWidget *parent) = 0;
     /// The file dialogue as the picker of one picture; nothing when it was left.
     virtual std::optional<PickedFile> pickPicture(QWidget *parent) = 0;
+    /// The labels of a product, modal.
+    virtual void showLabels(const LabelProduct &product, QWidget *parent) = 0;
     /// The translations of a window; true when they were changed.
     virtual bool translate(QWidget *window) = 0;
 };

@@ -8,6 +8,7 @@
 #include "reference/frmRefDetail.h"
 #include "reference/frmTrad.h"
 #include "shell/ApplicationFolder.h"
+#include "shell/MessageBoxes.h"
 #include "shell/Skin.h"
 #include "shell/frmAbout.h"
 #include "shell/frmDbPath.h"
@@ -29,8 +30,10 @@
 #include <QDir>
 #include <QFile>
 #include <QListWidget>
+#include <QPushButton>
 #include <QTabWidget>
 #include <QTemporaryDir>
+#include <QTimer>
 #include <QToolButton>
 #include <QTreeWidget>
 
@@ -157,6 +160,29 @@ void saveProducts(Session &session, const QString &folder)
     save(window, folder, u"frmArticle"_s);
 }
 
+/// The label window, which waits for a person, and the preview of the button that is pressed in a window.
+void savePaper(Session &session, const QString &folder)
+{
+    const auto savePreview = [&folder](QWidget &window, const QString &button, const QString &name) {
+        window.findChild<QPushButton *>(button)->click();
+        auto *preview = window.findChild<QDialog *>(u"PrintPreview"_s);
+        save(*preview, folder, name);
+        preview->close();
+    };
+    session.giModeProduit = 2;
+    session.glIdProduit = 1;
+    frmArticle window(session, nullptr);
+    window.show();
+    savePreview(window, u"cmdFiche"_s, u"PrintPreview-fiche"_s);
+    QTimer::singleShot(0, &window, [&] {
+        QWidget *labels = QApplication::activeModalWidget();
+        save(*labels, folder, u"frmEtiquette"_s);
+        savePreview(*labels, u"cmdValider0"_s, u"PrintPreview-etiquette"_s);
+        labels->close();
+    });
+    window.findChild<QPushButton *>(u"cmdEtiquette"_s)->click();
+}
+
 } // namespace
 
 int main(int argc, char *argv[])
@@ -181,6 +207,8 @@ int main(int argc, char *argv[])
     DeskScreens screens(session);
     session.messages = &quiet;
     session.desktop = &quiet;
+    FileDialogs files;
+    session.files = &files;
     session.screens = &screens;
     if (const Result filled = ApplicationFolder::fill(ApplicationFolder::delivered(), session.applicationFolder);
         !filled)
@@ -199,5 +227,6 @@ int main(int argc, char *argv[])
     saveWindows(session, folder);
     saveProducts(session, folder);
     saveCatalogue(session, folder);
+    savePaper(session, folder);
     return 0;
 }

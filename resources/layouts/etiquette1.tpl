@@ -1,5 +1,5 @@
 {
-  "title": "2 colonnes : A4 à découper, 14 étiquettes de 80 x 30 mm",
+  "title": "A4 – 14 × 80 × 30 mm",
   "page": { "width": 2100, "height": 2970, "margins": [40, 40, 40, 40] },
   "fields": { "Ean13": "", "Nom": "", "RefArticle": "", "PrixTTC": "" },
   "cells": {

@@ -1,5 +1,5 @@
 {
-  "title": "Avec description : A4 Avery L7163, 14 étiquettes de 99,1 x 38,1 mm",
+  "title": "Avery L7163, A4 – 14 × 99,1 × 38,1 mm",
   "page": { "width": 2100, "height": 2970, "margins": [40, 40, 40, 40] },
   "fields": { "Ean13": "", "Nom": "", "dDescription": "", "RefArticle": "", "PrixTTC": "" },
   "cells": {

@@ -1,5 +1,5 @@
 {
-  "title": "3 colonnes : A4 Avery L7160, 21 étiquettes de 63,5 x 38,1 mm",
+  "title": "Avery L7160, A4 – 21 × 63,5 × 38,1 mm",
   "page": { "width": 2100, "height": 2970, "margins": [40, 40, 40, 40] },
   "fields": { "Ean13": "", "Nom": "", "PrixTTC": "" },
   "cells": {

@@ -1,5 +1,5 @@
 {
-  "title": "4 colonnes : A4 Avery 3657, 40 étiquettes de 48,5 x 25,4 mm",
+  "title": "Avery 3657, A4 – 40 × 48,5 × 25,4 mm",
   "page": { "width": 2100, "height": 2970, "margins": [40, 40, 40, 40] },
   "fields": { "Ean13": "", "Nom": "", "RefArticle": "", "PrixTTC": "" },
   "cells": {

@@ -1,5 +1,5 @@
 {
-  "title": "Fiche produit : A4, photo à droite, tableau des champs à partir de 153,3 mm",
+  "title": "A4",
   "page": { "width": 2100, "height": 2970, "margins": [100, 100, 100, 100] },
   "fields": {
     "Nom": "", "dDescription": "", "Ean13": "", "RefArticle": "", "PrixTTC": "",

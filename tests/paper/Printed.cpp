@@ -23,7 +23,8 @@ QByteArray output(const QString &program, const QStringList &arguments)
 
 } // namespace
 
-Printed::Printed(const PrintDocument &document) : m_path(m_folder.filePath(u"printed.pdf"_s))
+Printed::Printed(const PrintDocument &document)
+    : m_folder(std::make_unique<QTemporaryDir>()), m_path(m_folder->filePath(u"printed.pdf"_s))
 {
     if (const Result saved = PrintEngine::saveAsPdf(document, m_path); !saved)
         qFatal("%s", qPrintable(saved.message()));

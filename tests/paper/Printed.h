@@ -4,6 +4,7 @@
 #include <QImage>
 #include <QRectF>
 #include <QTemporaryDir>
+#include <memory>
 
 /// A document as it comes out: its PDF, read back by programs that know nothing of its making.
 class Printed {
@@ -22,6 +23,6 @@ public:
     static QRectF ink(const QImage &page, const QRectF &place);
 
 private:
-    QTemporaryDir m_folder;
+    std::unique_ptr<QTemporaryDir> m_folder;
     QString m_path;
 };
