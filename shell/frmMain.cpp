@@ -4,6 +4,7 @@
 #include "platform/Desktop.h"
 #include "platform/Messages.h"
 #include "shell/Screen.h"
+#include "shell/ScreenPrint.h"
 #include "shell/Screens.h"
 #include "shell/Skin.h"
 #include "shell/frmAbout.h"
@@ -148,6 +149,7 @@ void frmMain::readPosition()
 
 void frmMain::wireMenus()
 {
+    connect(m_ui->mnuImprimEcran, &QAction::triggered, this, [this] { ScreenPrint::start(*this, m_session); });
     connect(m_ui->mnupreview, &QAction::triggered, this, [this] {
         QPrinter printer;
         QPageSetupDialog dialog(&printer, this);
