@@ -2,8 +2,8 @@
 
 #include "catalogue/frmDlgOpenDoc.h"
 #include "catalogue/frmListProduct.h"
-#include "reference/frmMaterial.h"
 #include "reference/frmEtiquette.h"
+#include "reference/frmMaterial.h"
 #include "reference/frmTrad.h"
 #include "shop/frmCatalogue.h"
 #include "shop/frmInfo.h"

@@ -31,8 +31,30 @@ Result copyWhole(const QString &from, const QString &to)
 /// What a newer version may replace.
 bool isOwnedByProgram(const QString &name)
 {
-    return name.startsWith(u"img/"_s) || name.contains(u"/img/"_s) || name.endsWith(u".tpl"_s)
-           || name.endsWith(u".pdf"_s);
+    return name.startsWith(u"img/"_s) || name.contains(u"/img/"_s) || name.endsWith(u".pdf"_s);
+}
+
+QByteArray contentOf(const QString &path)
+{
+    QFile file(path);
+    return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray();
+}
+
+/// A layout may have been changed by its user, and then stays until a version brings another one. So what was
+/// delivered last lies beside it, and what is replaced though it was changed is kept.
+Result refreshLayout(const QString &from, const QString &to)
+{
+    const QString last = QFileInfo(to).path() + u"/.delivered/"_s + QFileInfo(to).fileName();
+    const bool isThere = QFileInfo::exists(to);
+    if (isThere && WholeFile::holds(last, contentOf(from)))
+        return {};
+    if (isThere && !WholeFile::holds(to, contentOf(last)) && !WholeFile::holds(to, contentOf(from))) {
+        QFile::remove(to + u".bak"_s);
+        QFile::copy(to, to + u".bak"_s);
+    }
+    if (Result copied = copyWhole(from, to); !copied)
+        return copied;
+    return copyWhole(from, last);
 }
 
 } // namespace
@@ -61,9 +83,10 @@ Result ApplicationFolder::fill(const QString &deliveredFolder, const QString &ap
         const QString path = files.next();
         const QString name = from.relativeFilePath(path);
         const QString target = applicationFolder + u'/' + name;
-        if (name.endsWith(u".stamp"_s) || (QFileInfo::exists(target) && !isOwnedByProgram(name)))
+        const bool isLayout = name.endsWith(u".tpl"_s);
+        if (name.endsWith(u".stamp"_s) || (QFileInfo::exists(target) && !isLayout && !isOwnedByProgram(name)))
             continue;
-        if (const Result copied = copyWhole(path, target); first && !copied)
+        if (const Result copied = isLayout ? refreshLayout(path, target) : copyWhole(path, target); first && !copied)
             first = copied;
     }
     return first;

@@ -5,11 +5,13 @@
 #include "reference/frmEtiquette.h"
 #include "tests/desk/Desk.h"
 #include "tests/paper/Printed.h"
+#include "tests/support/Files.h"
 #include "tests/support/Suite.h"
 
 #include <QAction>
 #include <QCheckBox>
 #include <QComboBox>
+#include <QDir>
 #include <QLabel>
 #include <QLineEdit>
 #include <QListWidget>
@@ -64,6 +66,7 @@ private Q_SLOTS:
     void sheetShowsWhatIsTyped();
     void longTablesGoOn();
     void layoutsThatAreGone();
+    void layoutsOfTheUserStay();
 };
 
 void ProductPaperTest::labelsInEveryLanguage()
@@ -178,8 +181,7 @@ void ProductPaperTest::sheetShowsWhatIsTyped()
 {
     PaperDesk desk;
     desk.session.localisation.gsLangue = u"DE"_s;
-    const int product = desk.value(u"SELECT max(e.idRef_Produit) FROM REF_EXTENSION e WHERE e.sValeur <> ''"_s)
-                            .toInt();
+    const int product = desk.value(u"SELECT max(e.idRef_Produit) FROM REF_EXTENSION e WHERE e.sValeur <> ''"_s).toInt();
     auto article = desk.open(2, product);
     control<QLineEdit>(*article, "txtNom_3").setText(u"Noch nicht gespeichert"_s);
     control<QLineEdit>(*article, "txtModele").setText(u"M1"_s);
@@ -250,6 +252,28 @@ void ProductPaperTest::layoutsThatAreGone()
     // A start of the program brings them back.
     QVERIFY(ApplicationFolder::fill(QStringLiteral(ZELVANTOR_SHARE), desk.session.applicationFolder));
     QVERIFY(QFile::exists(desk.path(u"data/ft1.tpl"_s)));
+}
+
+void ProductPaperTest::layoutsOfTheUserStay()
+{
+    PaperDesk desk;
+    const QString layout = desk.path(u"data/etiquette1.tpl"_s);
+    const QString delivered = desk.path(u"share/etiquette1.tpl"_s);
+    QDir().mkpath(desk.path(u"share"_s));
+    const auto start = [&desk] { return bool(ApplicationFolder::fill(desk.path(u"share"_s), desk.path(u"data"_s))); };
+    Files::write(delivered, "one");
+    QVERIFY(start());
+    QCOMPARE(Files::read(layout), "one");
+    Files::write(layout, "changed");
+    QVERIFY(start());
+    QCOMPARE(Files::read(layout), "changed");
+    Files::write(delivered, "two");
+    QVERIFY(start());
+    QCOMPARE(Files::read(layout), "two");
+    QCOMPARE(Files::read(layout + u".bak"_s), "changed");
+    Files::write(delivered, "three");
+    QVERIFY(start());
+    QCOMPARE(Files::read(layout + u".bak"_s), "changed"); // the second was nobody's own
 }
 
 ZELVANTOR_SUITE(ProductPaperTest)
