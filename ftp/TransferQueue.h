@@ -28,7 +28,6 @@ private:
     const PaneRow *RemoteItem(const QueueItem &item) const;
     void takeNames(const QString &remoteDir, const QString &localDir, const QueueItem &item);
     bool mayAsk() const;
-    void ask();
     void ResetCancel();
     void AddStatusRow(const QString &status, const QString &local, const QString &size, const QString &remote);
     void cleanUp(bool isLocalPane);

@@ -1,0 +1,89 @@
+#include "ftp/Conflict.h"
+
+#include <QFile>
+
+#include <tuple>
+
+using namespace Qt::StringLiterals;
+
+void Conflict::opened(TransferVariables &transfer)
+{
+    transfer.bCancel = true;
+    transfer.bRenamed = false;
+    transfer.nApplyAll = 0;
+}
+
+QString Conflict::caption(const TransferVariables &transfer)
+{
+    return transfer.bStoring ? u"Storing File..."_s : u"Retrieving File..."_s;
+}
+
+QString Conflict::message(const TransferVariables &transfer)
+{
+    const auto side = [](const QString &directory, const QString &name, qint64 size) -> QString {
+        return directory + name + u'(' + QString::number(size) + u')';
+    };
+    const QString remote = side(transfer.sRemoteDir, transfer.sRemoteName, transfer.nRemoteSize);
+    const QString local = side(transfer.sLocalDir, transfer.sLocalName, transfer.nLocalSize);
+    return transfer.bStoring ? u"Overwrite "_s + remote + u" with " + local
+                             : u"Overwrite "_s + local + u" with " + remote;
+}
+
+bool Conflict::canResume(const TransferVariables &transfer, bool bRestartSupported)
+{
+    if (transfer.bStoring)
+        return transfer.nRemoteSize < transfer.nLocalSize;
+    return transfer.nLocalSize < transfer.nRemoteSize && bRestartSupported;
+}
+
+void Conflict::overwrite(TransferVariables &transfer)
+{
+    transfer.bOverwrite = true;
+    transfer.bCancel = false;
+    transfer.bRenamed = false;
+}
+
+void Conflict::resume(TransferVariables &transfer)
+{
+    transfer.bOverwrite = false;
+    transfer.bCancel = false;
+    transfer.bRenamed = false;
+}
+
+void Conflict::cancel(TransferVariables &transfer)
+{
+    transfer.bCancel = true;
+    transfer.bRenamed = false;
+}
+
+void Conflict::rename(TransferVariables &transfer)
+{
+    transfer.bRenamed = true;
+}
+
+void Conflict::applyToAll(TransferVariables &transfer, bool ticked)
+{
+    transfer.nApplyAll = ticked ? 1 : 0;
+}
+
+QString Conflict::nameOfTarget(const TransferVariables &transfer)
+{
+    return transfer.bStoring ? transfer.sRemoteName : transfer.sLocalName;
+}
+
+bool Conflict::renameTarget(FtpDesk &desk, RemoteBrowser &remote, const QString &newName)
+{
+    // A copy: the refresh of the pane lets other code run.
+    const TransferVariables transfer = desk.transfer;
+    desk.transfer.bCancel = false;
+    if (Panes::find(transfer.bStoring ? desk.remoteRows : desk.localRows, newName))
+        return false;
+    if (transfer.bStoring) {
+        const QString &directory = transfer.sRemoteDir;
+        std::ignore = desk.Ftp1.Rename(directory + transfer.sRemoteName, directory + newName);
+        std::ignore = remote.DoRemoteRefresh(directory);
+    } else {
+        QFile::rename(transfer.sLocalDir + transfer.sLocalName, transfer.sLocalDir + newName);
+    }
+    return true;
+}

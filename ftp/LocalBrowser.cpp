@@ -1,0 +1,129 @@
+#include "ftp/LocalBrowser.h"
+
+#include <QDateTime>
+#include <QDir>
+#include <QFile>
+
+using namespace Qt::StringLiterals;
+
+namespace {
+
+PaneRow rowOf(const QFileInfo &file, const QString &icon, const QString &directory)
+{
+    return {file.fileName(),
+            icon,
+            QString::number(file.size()),
+            file.lastModified().toString(u"yyyy-MM-dd HH:mm:ss"_s),
+            {},
+            directory + file.fileName()};
+}
+
+Result removed(const QString &path)
+{
+    const QFileInfo file(path);
+    // A link goes, not what it leads to.
+    if (file.isDir() && !file.isSymLink())
+        return QDir(path).removeRecursively() ? Result() : Result(FtpError::LocalFile, u"Can't be deleted: "_s + path);
+    QFile doomed(path);
+    if (!file.isSymLink())
+        doomed.setPermissions(doomed.permissions() | QFile::WriteOwner);
+    return doomed.remove() ? Result() : Result(FtpError::LocalFile, path + u": " + doomed.errorString());
+}
+
+} // namespace
+
+void LocalBrowser::DoLocalRefresh(const QString &directory)
+{
+    const QString path = Panes::NormalizePath(directory, false);
+    const QDir folder(path);
+    const auto shown = QDir::Hidden | QDir::System | QDir::NoDotAndDotDot;
+    PaneRows folders;
+    PaneRows files;
+    for (const QFileInfo &entry : folder.entryInfoList(QDir::Dirs | shown, QDir::Name))
+        folders.push_back(rowOf(entry, u"FolderClose"_s, path));
+    for (const QFileInfo &entry : folder.entryInfoList(QDir::Files | shown, QDir::Name))
+        files.push_back(rowOf(entry, Panes::fileIcon(entry.fileName()), path));
+    m_desk.localRows = Panes::sortedFolders(std::move(folders), std::move(files));
+    m_desk.view.showLocal(m_desk.localRows);
+}
+
+void LocalBrowser::sortBy(PaneColumn column)
+{
+    m_desk.localRows = Panes::sorted(std::move(m_desk.localRows), column);
+    m_desk.view.showLocal(m_desk.localRows);
+}
+
+QString LocalBrowser::parentOf(const QString &path)
+{
+    const qsizetype cut = path.chopped(path.isEmpty() ? 0 : 1).lastIndexOf(QDir::separator());
+    return cut < 0 ? path : path.first(cut + 1);
+}
+
+void LocalBrowser::LocalCdup(const QString &path)
+{
+    m_desk.localDir = parentOf(path);
+    m_desk.view.showLocalDir(m_desk.localDir);
+    DoLocalRefresh(m_desk.localDir);
+}
+
+void LocalBrowser::NewLocalFolder()
+{
+    const QString name = Panes::uniqueName(m_desk.localRows, u"New Folder"_s);
+    const QString directory = Panes::NormalizePath(m_desk.localDir, false);
+    if (!QDir(directory).mkdir(name))
+        return;
+    m_desk.localRows.push_back({name, u"FolderClose"_s, {}, {}, {}, directory + name});
+    m_desk.view.showLocal(m_desk.localRows);
+    m_desk.view.editLocalName(int(m_desk.localRows.size()) - 1);
+}
+
+bool LocalBrowser::rename(int row, const QString &newName)
+{
+    PaneRow &renamed = m_desk.localRows[size_t(row)];
+    const QString directory = Panes::NormalizePath(m_desk.localDir, false);
+    if (newName.isEmpty() || newName.contains(QDir::separator())
+        || !QFile::rename(directory + renamed.text, directory + newName))
+        return false;
+    renamed.tag = directory + newName;
+    renamed.text = newName;
+    return true;
+}
+
+void LocalBrowser::DeleteLocal(const QString &directory, const std::vector<QueueItem> &queue)
+{
+    if (queue.empty())
+        return;
+    FtpView &view = m_desk.view;
+    const QString count = QString::number(queue.size());
+    if (!view.confirm(u"Are you sure you want to delete "_s + count + u" Files or Folder?", u"Confirm Delete"_s)) {
+        for (const QueueItem &item : queue)
+            view.unmark(true, item);
+        return;
+    }
+    m_desk.commandsOff();
+    view.EnableDirBoxes(false, false);
+    for (const QueueItem &item : queue) {
+        const QString path = Panes::NormalizePath(directory, false) + item.Name;
+        const bool isFolder = Panes::isFolder({{}, item.Icon, {}, {}, {}, {}});
+        m_desk.showFileInfo((isFolder ? u"Folder:"_s : u"File:"_s) + item.Name, isFolder ? QString() : item.Size);
+        const Result deleted = removed(path);
+        m_desk.showFileInfo({}, {});
+        if (deleted) {
+            std::erase_if(m_desk.localRows, [&item](const PaneRow &row) { return row.text == item.Name; });
+        } else {
+            view.AppendLog(deleted.text() + u"\r\n");
+            view.unmark(true, item);
+        }
+        view.AddStatusRow(
+            {deleted ? u"Delete"_s : u"Delete Denied"_s, path, item.Size, {}, {}, m_desk.settings.RemoteHost});
+        view.breathe();
+    }
+    view.showLocal(m_desk.localRows);
+    view.EnableDirBoxes(true, true);
+    m_desk.commandsBack();
+}
+
+void LocalBrowser::ViewLocalFile(int row)
+{
+    m_desk.view.open(m_desk.localRows[size_t(row)].tag);
+}
