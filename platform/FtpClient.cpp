@@ -139,6 +139,7 @@ FtpOutcome FtpClient::Private::run(FtpRequest &request)
         QMetaObject::invokeMethod(&relay, event, Qt::QueuedConnection);
     };
     busy = true;
+    wire.forgetAbort();
     FtpOutcome outcome;
     bool done = false;
     QEventLoop loop;
@@ -435,6 +436,8 @@ Result FtpClient::List(QString &text, const QString &path)
     bool isUtf8 = true;
     text = decode(request.listing, &isUtf8);
     d->eightBit = !isUtf8;
+    // libcurl has made the line ends those of this system.
+    text.remove(u'\r').replace(u'\n', u"\r\n"_s);
     return listed;
 }
 

@@ -314,7 +314,6 @@ FtpOutcome FtpWire::run(FtpRequest &request)
         outcome.error = request.localFile + u": "_s + m_file.errorString();
     }
     m_file.close();
-    m_aborted = false;
     m_request = nullptr;
     m_outcome = nullptr;
     return outcome;

@@ -67,8 +67,9 @@ public:
 
     void setServer(const FtpServer &server) { m_server = server; }
     FtpOutcome run(FtpRequest &request);
-    /// Ends the request that runs, from any thread.
+    /// Ends the request that runs, or the next one unless `forgetAbort` comes before it. From any thread.
     void abort();
+    void forgetAbort() { m_aborted = false; }
     /// Closes the connection without a word. No request runs.
     void drop();
     bool hasConnection();

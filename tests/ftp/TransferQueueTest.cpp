@@ -1,1 +1,351 @@
 #include "ftp/TransferQueue.h"
+#include "ftp/Conflict.h"
+#include "platform/FtpClient.h"
+#include "platform/SettingsStore.h"
+#include "tests/ftp/RealServer.h"
+#include "tests/ftp/RecordingView.h"
+#include "tests/ftp/ScriptedServer.h"
+#include "tests/support/Files.h"
+#include "tests/support/Suite.h"
+
+#include <QDir>
+#include <QTest>
+
+using namespace Qt::StringLiterals;
+
+namespace {
+
+/// The window's rules without the window, logged in to a server.
+struct Desk {
+    explicit Desk(int port, const QString &user = u"shop"_s)
+    {
+        desk.settings.RemoteHost = u"127.0.0.1"_s;
+        desk.settings.UserName = user;
+        desk.settings.Password = RealServer::password;
+        desk.settings.RemotePort = port;
+        desk.settings.Timeout = 5;
+        desk.sViewFile = path(u"sFile"_s);
+        desk.listen();
+        remote.login();
+        QDir(folder.path()).mkdir(u"local"_s);
+        local.DoLocalRefresh(path(u"local"_s));
+        desk.localDir = path(u"local"_s);
+    }
+
+    QString path(const QString &name) const { return folder.filePath(name); }
+    QString home() const { return client.CurrentDirectory(); }
+    static int row(const PaneRows &rows, const QString &name)
+    {
+        const PaneRow *found = Panes::find(rows, name);
+        return found ? int(found - rows.data()) : -1;
+    }
+    void queueRemote(const QStringList &names)
+    {
+        std::vector<int> rows;
+        for (const QString &name : names)
+            rows.push_back(row(desk.remoteRows, name));
+        queue.QueueRemoteSelection(home(), rows);
+    }
+    void store(const QStringList &names)
+    {
+        local.DoLocalRefresh(desk.localDir);
+        std::vector<int> rows;
+        for (const QString &name : names)
+            rows.push_back(row(desk.localRows, name));
+        queue.QueueLocalSelection(desk.localDir, rows);
+        queue.StoreQueue(home());
+    }
+    void retrieve(const QStringList &names)
+    {
+        queueRemote(names);
+        queue.RetrieveQueue(desk.localDir);
+    }
+    /// The status rows since the last call, without the path of the remote folder.
+    QString statusRows()
+    {
+        const QString text = std::exchange(view.status, {}).join(u'|');
+        return QString(text).remove(Panes::NormalizePath(home(), true));
+    }
+
+    QTemporaryDir folder;
+    FtpClient client;
+    RecordingView view;
+    FtpDesk desk{client, view};
+    RemoteBrowser remote{desk};
+    LocalBrowser local{desk};
+    TransferQueue queue{desk, remote, local};
+};
+
+} // namespace
+
+class TransferQueueTest : public QObject {
+    Q_OBJECT
+private Q_SLOTS:
+    void uploadConflicts_data();
+    void uploadConflicts();
+    void downloadConflicts();
+    void folders();
+    void browsing();
+    void hostileNames();
+    void lostServer();
+    void settings();
+};
+
+void TransferQueueTest::uploadConflicts_data()
+{
+    using Decision = std::function<void(Desk &)>;
+    QTest::addColumn<Decision>("decision");
+    QTest::addColumn<int>("asked");
+    QTest::addColumn<QByteArray>("a"); // there before as "12", to be replaced by "abcd"
+    QTest::addColumn<QByteArray>("b");
+    QTest::addColumn<QString>("rows");
+    const auto row = [](const char *name, const Decision &decision, int asked, const char *a, const char *b,
+                        const QString &rows) {
+        QTest::newRow(name) << decision << asked << QByteArray(a) << QByteArray(b) << rows;
+    };
+    const auto all = [](Desk &desk) { Conflict::applyToAll(desk.desk.transfer, true); };
+    const QString both = u"Upload -->a|Upload -->b|Upload -->c"_s;
+    row(
+        "overwrite", [](Desk &d) { Conflict::overwrite(d.desk.transfer); }, 2, "abcd", "abcd", both);
+    row(
+        "overwrite all",
+        [all](Desk &d) {
+            all(d);
+            Conflict::overwrite(d.desk.transfer);
+        },
+        1, "abcd", "abcd", both);
+    row(
+        "resume", [](Desk &d) { Conflict::resume(d.desk.transfer); }, 2, "12cd", "12cd", both);
+    row(
+        "cancel", [](Desk &d) { Conflict::cancel(d.desk.transfer); }, 2, "12", "12", u"Upload -->c"_s);
+    row(
+        "closed by its frame", [](Desk &) {}, 2, "12", "12", u"Upload -->c"_s);
+    row(
+        "cancel all",
+        [all](Desk &d) {
+            all(d);
+            Conflict::cancel(d.desk.transfer);
+        },
+        1, "12", "12", u""_s);
+    // The old target goes out of the way; what follows goes on at the old size.
+    row(
+        "rename",
+        [](Desk &d) {
+            Conflict::rename(d.desk.transfer);
+            Conflict::renameTarget(d.desk, d.remote, u"old "_s + Conflict::nameOfTarget(d.desk.transfer));
+        },
+        2, "cd", "cd", both);
+}
+
+void TransferQueueTest::uploadConflicts()
+{
+    QFETCH(std::function<void(Desk &)>, decision);
+    const RealServer server(RealServer::Kind::Proftpd);
+    Files::write(server.root() + u"/a", "12");
+    Files::write(server.root() + u"/b", "12");
+    Desk desk(server.port());
+    for (const QString &name : {u"a"_s, u"b"_s, u"c"_s})
+        Files::write(desk.path(u"local/"_s + name), "abcd");
+    desk.view.decide = [&] {
+        Conflict::opened(desk.desk.transfer);
+        QVERIFY(Conflict::message(desk.desk.transfer).endsWith(u"(4)"_s) && desk.desk.transfer.bStoring);
+        QVERIFY(Conflict::canResume(desk.desk.transfer, false));
+        decision(desk);
+    };
+    desk.store({u"a"_s, u"b"_s, u"c"_s});
+    QTEST(desk.view.conflicts, "asked");
+    QTEST(Files::read(server.root() + u"/a"), "a");
+    QTEST(Files::read(server.root() + u"/b"), "b");
+    QTEST(desk.statusRows(), "rows");
+    QVERIFY(!desk.desk.transfer.bCancel && desk.view.canLogout && !desk.view.canLogin);
+}
+
+void TransferQueueTest::downloadConflicts()
+{
+    const RealServer server(RealServer::Kind::Proftpd);
+    for (const char *name : {"/a", "/b", "/gone", "/z"})
+        Files::write(server.root() + QLatin1String(name), "abcd");
+    Desk desk(server.port());
+    QVERIFY(desk.desk.bRestartSupported);
+    const auto local = [&](const QString &name) { return desk.path(u"local/"_s + name); };
+    TransferVariables &transfer = desk.desk.transfer;
+    Files::write(local(u"a"_s), "12");
+    desk.view.decide = [&] {
+        Conflict::opened(transfer);
+        QVERIFY(Conflict::canResume(transfer, true) && !Conflict::canResume(transfer, false));
+        Conflict::resume(transfer);
+    };
+    desk.retrieve({u"a"_s});
+    QCOMPARE(Files::read(local(u"a"_s)), QByteArray("12cd"));
+    // A target moved out of the way: the whole file comes, and the old one is kept.
+    desk.view.decide = [&] {
+        Conflict::opened(transfer);
+        QVERIFY(!Conflict::canResume(transfer, true));
+        Conflict::rename(transfer);
+        QVERIFY(!Conflict::renameTarget(desk.desk, desk.remote, u"a"_s));
+        QVERIFY(Conflict::renameTarget(desk.desk, desk.remote, u"a.old"_s));
+    };
+    desk.retrieve({u"a"_s});
+    QCOMPARE(Files::read(local(u"a"_s)) + Files::read(local(u"a.old"_s)), QByteArray("abcd12cd"));
+    QCOMPARE(desk.statusRows(), u"Download <--a|Download <--a"_s);
+    // An error drops the rest of the queue.
+    QFile::remove(server.root() + u"/gone");
+    desk.retrieve({u"b"_s, u"gone"_s, u"z"_s});
+    QCOMPARE(desk.statusRows(), u"Download <--b|Error <--gone"_s);
+    QVERIFY(!QFile::exists(local(u"gone"_s)) && !QFile::exists(local(u"z"_s)));
+    // A folder of the merchant's bears the name.
+    QDir(desk.path(u"local"_s)).mkpath(u"z/x"_s);
+    desk.view.decide = [&] {
+        Conflict::opened(transfer);
+        Conflict::overwrite(transfer);
+    };
+    desk.retrieve({u"z"_s});
+    QCOMPARE(desk.statusRows(), u"Error <--z"_s);
+    QVERIFY(QFileInfo(local(u"z/x"_s)).isDir() && desk.view.canLogout);
+}
+
+void TransferQueueTest::folders()
+{
+    const RealServer server(RealServer::Kind::Proftpd);
+    Desk desk(server.port());
+    const QString shop = desk.path(u"local/my shop"_s);
+    Files::write(shop + u"/img/deep/a.jpg", "picture");
+    Files::write(shop + u"/index.htm", "page");
+    QFile::link(shop, shop + u"/img/up");
+    desk.store({u"my shop"_s});
+    QCOMPARE(desk.statusRows(), u"Upload -->my shop"_s);
+    const auto files = Files::tree(server.root());
+    QCOMPARE(files.keys(), (QStringList{u"my shop/img/deep/a.jpg"_s, u"my shop/index.htm"_s}));
+
+    QFile::link(server.root(), server.root() + u"/my shop/loop");
+    desk.view.decide = [&] { Conflict::opened(desk.desk.transfer); };
+    desk.retrieve({u"my shop"_s});
+    QVERIFY(desk.statusRows().isEmpty() && desk.view.conflicts == 1);
+    desk.local.DeleteLocal(desk.desk.localDir, {{u"my shop"_s, desk.desk.localDir, u"FolderClose"_s, {}, 1}});
+    QVERIFY(!QFile::exists(shop) && desk.statusRows().startsWith(u"Delete "_s));
+    desk.retrieve({u"my shop"_s});
+    QCOMPARE(desk.statusRows(), u"Download <--my shop"_s);
+    QCOMPARE(Files::tree(desk.desk.localDir), files);
+
+    // A link is nothing that a deletion follows; the folder that holds one stays.
+    const auto remove = [&desk](const QString &name) {
+        desk.queueRemote({name});
+        desk.remote.DeleteRemote(desk.home(), desk.queue.items());
+        return desk.statusRows();
+    };
+    QCOMPARE(remove(u"my shop"_s), u"Delete Denied my shop"_s);
+    QVERIFY(QFile::remove(server.root() + u"/my shop/loop"));
+    QCOMPARE(remove(u"my shop"_s), u"Delete my shop"_s);
+    QVERIFY(QDir(server.root()).isEmpty());
+    QVERIFY(desk.view.boxes.contains(u"Are you sure you want to delete 1 Files or Folders?"_s));
+}
+
+void TransferQueueTest::browsing()
+{
+    const RealServer server(RealServer::Kind::Proftpd);
+    Files::write(server.root() + u"/real/page.htm", "page");
+    QFile::link(server.root() + u"/real", server.root() + u"/now");
+    Desk desk(server.port());
+    const QString home = desk.home();
+    QCOMPARE(desk.view.caption, u"ZELVANTORFTP (Connected to: 127.0.0.1)"_s);
+    QVERIFY(desk.view.log.startsWith(u"Connecting ...\r\n"_s) && !desk.view.log.contains(RealServer::password));
+    desk.desk.sHomeDir = home;
+    const int link = Desk::row(desk.desk.remoteRows, u"now"_s);
+    desk.remote.ProbeRemoteLink(link);
+    QCOMPARE(desk.desk.remoteRows[size_t(link)].icon, u"FolderLink"_s);
+    QCOMPARE(desk.home(), home);
+    desk.remote.ChangeRemoteDir(desk.desk.remoteRows[size_t(link)].tag);
+    desk.remote.ViewRemoteFile(Desk::row(desk.desk.remoteRows, u"page.htm"_s));
+    QCOMPARE(desk.view.opened, QStringList(desk.desk.sViewFile));
+    QCOMPARE(Files::read(desk.desk.sViewFile), QByteArray("page"));
+    desk.remote.ChangeRemoteDir(u"/no/such/folder"_s);
+    QVERIFY(desk.view.canLogout);
+    QVERIFY(desk.remote.RemoteCdup());
+
+    // A folder of the name that the pane doesn't show, since it was made from elsewhere.
+    QDir(server.root()).mkdir(u"New Folder"_s);
+    desk.remote.NewRemoteFolder();
+    const int made = desk.view.edited;
+    QCOMPARE(desk.desk.remoteRows[size_t(made)].text, u"New Folder(1)"_s);
+    QVERIFY(desk.remote.rename(made, u"été"_s));
+    QVERIFY(QFileInfo(server.root() + u"/été").isDir());
+    QVERIFY(!desk.remote.rename(made, u"no/such/folder"_s));
+    QCOMPARE(desk.desk.remoteRows[size_t(made)].tag, QString(Panes::NormalizePath(desk.home(), true) + u"été"));
+    for (const QString &name : {u"New Folder"_s, u"New Folder0"_s}) {
+        desk.local.NewLocalFolder();
+        QVERIFY(QFileInfo(desk.path(u"local/"_s + name)).isDir());
+    }
+    QCOMPARE(LocalBrowser::parentOf(u"/a/b/"_s) + LocalBrowser::parentOf(u"/"_s), u"/a//"_s);
+    desk.remote.logout();
+    QVERIFY(desk.view.canLogin && desk.desk.remoteRows.empty());
+}
+
+void TransferQueueTest::hostileNames()
+{
+    ScriptedServer server;
+    QByteArray lines = "drwxr-xr-x 1 a b 7 Jan 15 12:30 shop\r\n";
+    server.listing = lines;
+    Desk desk(server.port());
+    for (const char *name : {"../out", "/tmp/out", "..\\out", "a\tb", "con", "good", ".."})
+        server.listing += "-rw-r--r-- 1 a b 4 Jan 15 12:30 " + QByteArray(name) + "\r\n";
+    server.listing.remove(0, lines.size());
+    for (const char *name : {"../out", "/tmp/out", "good"})
+        server.files[QByteArray("/shop/") + name] = "evil";
+    desk.retrieve({u"shop"_s});
+    QCOMPARE(Files::tree(desk.path(u"local"_s)).keys(), QStringList(u"shop/good"_s));
+    QCOMPARE(Files::tree(desk.folder.path()).size(), 1);
+    QVERIFY(desk.view.status.join(u'|').startsWith(u"Error <--"_s));
+    server.listing = "Everything is <b>fine</b>\r\n";
+    QVERIFY(desk.remote.DoRemoteRefresh(u"/"_s));
+    QVERIFY(desk.view.boxes.last().endsWith(u"lines that failed: \r\n\r\nEverything is <b>fine</b>\r\n"_s));
+    QCOMPARE(int(desk.desk.remoteRows.size()), 1);
+    QVERIFY(desk.view.canLogout);
+}
+
+void TransferQueueTest::lostServer()
+{
+    auto server = std::make_unique<ScriptedServer>();
+    Desk desk(server->port());
+    Files::write(desk.path(u"local/a"_s), "a");
+    Files::write(desk.path(u"local/b"_s), "b");
+    server->replies["STOR"] = "553 no";
+    desk.store({u"a"_s, u"b"_s});
+    QCOMPARE(desk.statusRows(), u"Upload Denied -->a|Upload Denied -->b"_s);
+    QVERIFY(desk.view.canLogout && desk.view.boxes.isEmpty());
+    server.reset();
+    desk.store({u"a"_s, u"b"_s});
+    QCOMPARE(desk.statusRows(), u"Upload Denied -->a|Upload Denied -->b"_s);
+    QVERIFY(desk.view.canLogin && !desk.view.canLogout && !desk.view.canAbort);
+    QCOMPARE(desk.view.caption, u"ZELVANTORFTP"_s);
+    desk.remote.login();
+    QCOMPARE(desk.view.boxes.size(), 1);
+    QVERIFY(desk.desk.bLost && desk.view.canLogin);
+}
+
+void TransferQueueTest::settings()
+{
+    const QTemporaryDir folder;
+    SettingsStore store(folder.path());
+    FtpSettings settings = FtpSettings::load(store);
+    QVERIFY(settings.Passive && settings.Timeout == 60 && settings.RemotePort == 21 && settings.TransferType == 1);
+    for (const QString &text : {u"0"_s, u"10000"_s, u"abc"_s, u""_s, u"-5"_s})
+        QVERIFY(!settings.takeTimeout(text));
+    QVERIFY(settings.takeTimeout(u"9999 s"_s));
+    settings.TransferType = FtpSettings::typeFromName(FtpSettings::typeName(2));
+    settings.Passive = false;
+    settings.Password = u"p%,\"é"_s;
+    settings.Tls = FtpTls::Always;
+    QVERIFY(settings.save(store));
+    QCOMPARE(store.value(u"ZELVANTORFTP"_s, u"Settings"_s, u"Password"_s), settings.Password);
+    const FtpSettings again = FtpSettings::load(store);
+    QVERIFY(again.TransferType == 2 && !again.Passive && again.Timeout == 9999 && again.Tls == FtpTls::Always);
+    FtpCertificate certificate{u"shop.example"_s, {}, {}, {}, {}, u"AA:BB"_s, {}};
+    QVERIFY(FtpCertificates::check(store, certificate) == FtpCertificates::Known::Unknown);
+    QVERIFY(FtpCertificates::keep(store, certificate));
+    QVERIFY(FtpCertificates::check(store, certificate) == FtpCertificates::Known::Same);
+    certificate.fingerprint = u"AA:CC"_s;
+    QVERIFY(FtpCertificates::check(store, certificate) == FtpCertificates::Known::Changed);
+}
+
+ZELVANTOR_SUITE(TransferQueueTest)
+#include "TransferQueueTest.moc"
