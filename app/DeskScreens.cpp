@@ -2,6 +2,7 @@
 
 #include "catalogue/frmDlgOpenDoc.h"
 #include "catalogue/frmListProduct.h"
+#include "ftp/frmFTP.h"
 #include "reference/frmEtiquette.h"
 #include "reference/frmMaterial.h"
 #include "reference/frmTrad.h"
@@ -56,9 +57,9 @@ void DeskScreens::showTree(QWidget *parent, bool bCategorie)
     frmMaterial(m_session, bCategorie, parent).exec();
 }
 
-bool DeskScreens::showFtp(QWidget *)
+void DeskScreens::showFtp(QWidget *parent)
 {
-    return false;
+    frmFTP(m_session, parent).exec();
 }
 
 std::optional<PickedFile> DeskScreens::pickPicture(QWidget *parent)

@@ -14,7 +14,7 @@ public:
     void showInfo(QWidget *parent) override;
     void showProducts(QMdiArea *frame) override;
     void showTree(QWidget *parent, bool bCategorie) override;
-    bool showFtp(QWidget *parent) override;
+    void showFtp(QWidget *parent) override;
     std::optional<PickedFile> pickPicture(QWidget *parent) override;
     void showLabels(const LabelProduct &product, QWidget *parent) override;
     bool translate(QWidget *window) override;

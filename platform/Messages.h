@@ -10,6 +10,8 @@ public:
     virtual void box(const QString &text, const QString &title) = 0;
     /// A box with Yes and No; true for Yes.
     virtual bool question(const QString &text, const QString &title) = 0;
+    /// A box with OK and Cancel; true for OK.
+    virtual bool confirm(const QString &text, const QString &title) { return question(text, title); }
     /// A beep without a window; `text` says what for, and goes to the log.
     virtual void alert(const QString &text) = 0;
 };

@@ -28,6 +28,14 @@ bool MessageBoxes::question(const QString &text, const QString &title)
     return message.exec() == QMessageBox::Yes;
 }
 
+bool MessageBoxes::confirm(const QString &text, const QString &title)
+{
+    QMessageBox message(QMessageBox::Question, title, text, QMessageBox::Ok | QMessageBox::Cancel,
+                        QApplication::activeWindow());
+    message.setTextFormat(Qt::PlainText);
+    return message.exec() == QMessageBox::Ok;
+}
+
 void MessageBoxes::alert(const QString &text)
 {
     qCInfo(logShell).noquote() << text;

@@ -32,8 +32,7 @@ public:
     virtual void showProducts(QMdiArea *frame) = 0;
     /// The tree of the product groups, or that of the lists.
     virtual void showTree(QWidget *parent, bool bCategorie) = 0;
-    /// The FTP client; false while there is none.
-    virtual bool showFtp(QWidget *parent) = 0;
+    virtual void showFtp(QWidget *parent) = 0;
     /// The file dialogue as the picker of one picture; nothing when it was left.
     virtual std::optional<PickedFile> pickPicture(QWidget *parent) = 0;
     /// The labels of a product, modal.

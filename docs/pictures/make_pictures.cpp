@@ -4,6 +4,8 @@
 #include "catalogue/frmArticle.h"
 #include "catalogue/frmDlgOpenDoc.h"
 #include "catalogue/frmListProduct.h"
+#include "ftp/frmCertificate.h"
+#include "ftp/frmFTP.h"
 #include "reference/frmMaterial.h"
 #include "reference/frmRefDetail.h"
 #include "reference/frmTrad.h"
@@ -183,6 +185,26 @@ void savePaper(Session &session, const QString &folder)
     window.findChild<QPushButton *>(u"cmdEtiquette"_s)->click();
 }
 
+/// The FTP client beside a shop that has been generated, and its dialogues.
+void saveFtp(Session &session, const QString &folder)
+{
+    QDir().mkpath(session.applicationFolder + u"/temp/images"_s);
+    for (const QString &name : {u"index.htm"_s, u"checkout.htm"_s, u"nopcart.js"_s, u"searchdb.js"_s})
+        QFile::copy(session.applicationFolder + u"/FR.cda"_s, session.applicationFolder + u"/temp/"_s + name);
+    frmFTP window(session, nullptr);
+    save(window, folder, u"frmFTP"_s);
+    FtpCertificate certificate;
+    certificate.host = u"ftp.mon-hebergeur.example"_s;
+    certificate.subject = u"ftp.mon-hebergeur.example"_s;
+    certificate.issuer = u"ftp.mon-hebergeur.example"_s;
+    certificate.from = QDateTime(QDate(2026, 1, 1), QTime());
+    certificate.until = QDateTime(QDate(2027, 1, 1), QTime());
+    certificate.fingerprint = u"5E:7C:0B:91:A4:33:D8:62:17:EE:40:5A:9C:28:B6:F1:"
+                              "03:7D:E9:54:88:CA:1F:60:B3:92:4E:D7:05:6A:FC:21"_s;
+    frmCertificate question(session, certificate, false, nullptr);
+    save(question, folder, u"frmCertificate"_s);
+}
+
 } // namespace
 
 int main(int argc, char *argv[])
@@ -228,5 +250,6 @@ int main(int argc, char *argv[])
     saveProducts(session, folder);
     saveCatalogue(session, folder);
     savePaper(session, folder);
+    saveFtp(session, folder);
     return 0;
 }

@@ -47,7 +47,7 @@ void WindowsTest::everyKeyOfEveryWindowIsInEveryLanguage()
 {
     const QDir source(QStringLiteral(ZELVANTOR_SOURCE));
     int keys = 0;
-    for (const QString &room : {u"shell"_s, u"shop"_s, u"reference"_s, u"catalogue"_s}) {
+    for (const QString &room : {u"shell"_s, u"shop"_s, u"reference"_s, u"catalogue"_s, u"ftp"_s}) {
         for (const QString &name : QDir(source.filePath(room)).entryList({u"frm*.ui"_s})) {
             QXmlStreamReader xml(Files::read(source.filePath(room + u'/' + name)));
             QStringList tags;

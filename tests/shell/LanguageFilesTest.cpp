@@ -37,12 +37,12 @@ bool isShared(const QString &language, const QString &text)
 {
     static const QHash<QString, QStringList> words = {
         {u"all"_s,
-         {u"kg"_s, u"g"_s, u"cl"_s, u"cm"_s, u"m²"_s, u"m³"_s, u"PayPal"_s, u"ZELVANTOR"_s, u"Code"_s, u"FR"_s, u"EN"_s,
-          u"NL"_s, u"DE"_s, u"IT"_s, u"ES"_s}},
+         {u"kg"_s, u"g"_s, u"cl"_s, u"cm"_s, u"m²"_s, u"m³"_s, u"PayPal"_s, u"ZELVANTOR"_s, u"ZELVANTORFTP"_s,
+          u"Code"_s, u"FR"_s, u"EN"_s, u"NL"_s, u"DE"_s, u"IT"_s, u"ES"_s}},
         {u"EN"_s,
          {u"Contact"_s, u"Options"_s, u"Logo"_s, u"Description"_s, u"Pages"_s, u"carton"_s, u"litre"_s, u"Documents"_s,
-          u"Data path"_s, u"Print Screen..."_s, u"CONFIGURATION"_s, u"Password"_s, u"Stock"_s, u"Add..."_s,
-          u"Add small..."_s}},
+          u"Data path"_s, u"Print Screen..."_s, u"CONFIGURATION"_s, u"Password"_s, u"Actions"_s, u"Stock"_s,
+          u"Add..."_s, u"Add small..."_s}},
         {u"NL"_s, {u"Contact"_s, u"Marge"_s}},
         {u"DE"_s, {u"Liste"_s}},
         {u"IT"_s, {u"Liste"_s, u"Logo"_s, u"Password"_s}},
