@@ -42,7 +42,6 @@ frmDlgOpenDoc::frmDlgOpenDoc(Session &screenSession, QWidget *parent)
     openRememberedFolder();
     wire();
     opened();
-    setWindowTitle(session().gbPhotos ? u"Pictures"_s : u"Documents"_s);
     fillFiles();
     if (!session().gbChoixFichier)
         AfficherDocs();
@@ -52,6 +51,11 @@ frmDlgOpenDoc::~frmDlgOpenDoc()
 {
     // The focus still moves when the controls go, which is after their names have gone.
     disconnect(qApp, nullptr, this, nullptr);
+}
+
+void frmDlgOpenDoc::textsLoaded()
+{
+    setWindowTitle(session().gbPhotos ? u"Pictures"_s : u"Documents"_s);
 }
 
 /// The folder of the documents is kept as "PATHDOC" and asked for as "PATHPDOC": only pictures come back to their last

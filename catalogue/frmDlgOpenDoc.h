@@ -18,6 +18,8 @@ public:
     frmDlgOpenDoc(Session &session, QWidget *parent);
     ~frmDlgOpenDoc() override;
 
+    void textsLoaded() override;
+
     /// Full path of the file that the picker validated; empty when the dialogue was left.
     const QString &chosenPath() const { return m_chosen; }
 

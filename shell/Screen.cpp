@@ -17,7 +17,10 @@ const QString windowsApplication = u"ZELVANTOR"_s; // the title of the program, 
 
 QString translateText(const Session &session)
 {
-    const QString text = session.localisation.Traduire(u"MAIN"_s, u"miTraduire"_s);
+    // Also while the shop screen reads the words of the shop.
+    Localisation windows = session.localisation;
+    windows.gbLangueCatalogue = false;
+    const QString text = windows.Traduire(u"MAIN"_s, u"miTraduire"_s);
     return text.isEmpty() ? u"Traduire cette fenêtre..."_s : text;
 }
 
@@ -43,8 +46,11 @@ void ScreenManners::apply(QWidget &window, Session &session)
 
 void ScreenManners::translate(QWidget &window, Session &session)
 {
-    if (session.screens && session.screens->translate(&window))
-        loadTexts(window, session);
+    if (!session.screens || !session.screens->translate(&window))
+        return;
+    loadTexts(window, session);
+    if (auto *screen = qobject_cast<Screen *>(&window))
+        screen->textsLoaded();
 }
 
 void ScreenManners::remember(const QWidget &window, Session &session)
@@ -65,6 +71,7 @@ void Screen::opened()
 {
     setSizeGripEnabled(true);
     ScreenManners::apply(*this, m_session);
+    textsLoaded();
 }
 
 void Screen::done(int result)

@@ -24,6 +24,8 @@ public:
     Screen(Session &session, QWidget *parent);
 
     void done(int result) override;
+    /// Called when the texts of the language file have been given; what they must not change is set here.
+    virtual void textsLoaded() {}
 
 protected:
     void opened();

@@ -9,7 +9,7 @@ namespace Skin {
 
 /// Applied once, before the first window.
 void apply(QApplication &application);
-/// An icon by its name; icons are vectors, and their lines take the colour of the window's text.
+/// An icon by its name; icons are vectors, and their lines always have the colour of the windows' text.
 QIcon icon(const QString &name);
 
 } // namespace Skin

@@ -221,6 +221,14 @@ void frmMain::openHelp()
             u"Impossible d'afficher le sommaire de l'Aide. Aucune Aide n'est associée à ce projet."_s, title);
 }
 
+/// The area keeps the brush that it began with.
+void frmMain::changeEvent(QEvent *event)
+{
+    if (event->type() == QEvent::PaletteChange || event->type() == QEvent::StyleChange)
+        m_ui->mdi->setBackground(palette().brush(QPalette::Dark));
+    QMainWindow::changeEvent(event);
+}
+
 void frmMain::closeEvent(QCloseEvent *event)
 {
     event->accept();

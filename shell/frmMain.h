@@ -32,6 +32,7 @@ Q_SIGNALS:
     void ended();
 
 protected:
+    void changeEvent(QEvent *event) override;
     void closeEvent(QCloseEvent *event) override;
     void mousePressEvent(QMouseEvent *event) override;
 

@@ -17,6 +17,7 @@
 #include <QDir>
 #include <QLabel>
 #include <QLineEdit>
+#include <QMdiArea>
 #include <QPushButton>
 #include <QTest>
 #include <QToolButton>
@@ -39,6 +40,7 @@ private Q_SLOTS:
     void commandTakesTheOpenEditor();
     void languageTabsTakeCodesOnly_data();
     void languageTabsTakeCodesOnly();
+    void colourOfTheDesktopIsFollowed();
     void registryKeepsItsKinds();
 };
 
@@ -272,6 +274,32 @@ void WindowsTest::languageTabsTakeCodesOnly()
     QFETCH(QString, key);
     QFETCH(QString, text);
     QTEST(mayTranslate(section, key, text), "written");
+}
+
+/// A desktop that turns dark in the evening, with the window open.
+void WindowsTest::colourOfTheDesktopIsFollowed()
+{
+    const QPalette light = QApplication::palette();
+    Desk desk;
+    desk.openSample();
+    frmMain window(desk.session);
+    window.show();
+    const auto isLight = [](const QColor &colour) { return colour.lightness() > 128; };
+    for (const bool dark : {false, true, false}) {
+        QApplication::setPalette(dark ? QPalette(QColor(45, 45, 45)) : light);
+        QTest::qWait(20);
+        const auto &button = control<QToolButton>(window, "Regionale");
+        QCOMPARE(isLight(button.palette().color(QPalette::ButtonText)), dark);
+        QCOMPARE(isLight(control<QLabel>(window, "Utilisateur").palette().color(QPalette::WindowText)), dark);
+        QCOMPARE(isLight(control<QMdiArea>(window, "mdi").background().color()), !dark);
+        const QImage icon = button.icon().pixmap(32, 32).toImage();
+        bool lines = false;
+        for (int i = 0; i < 32 * 32; ++i)
+            lines =
+                lines
+                || (icon.pixelColor(i % 32, i / 32).alpha() == 255 && isLight(icon.pixelColor(i % 32, i / 32)) == dark);
+        QVERIFY(lines);
+    }
 }
 
 void WindowsTest::registryKeepsItsKinds()
