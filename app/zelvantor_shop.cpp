@@ -128,8 +128,6 @@ int generate(const Arguments &arguments, const ShopData &data, Session &session,
     ShopFolder folder(arguments.outputFolder, report);
     if (folder.prepare(arguments.applicationFolder + u"/img"_s)) {
         folder.copyLogo(data.info(13).trimmed().isEmpty() ? QString() : session.filePath(data.info(13)));
-        if (!data.settings.txtLogo.isEmpty())
-            folder.picture(session.filePath(data.settings.txtLogo), data.settings.txtFile);
         folder.checkAssets(data);
         genererBoutique(data, readSelection(session, report), session, folder, report);
         folder.removeOldFiles();

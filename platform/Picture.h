@@ -9,4 +9,7 @@ namespace Picture {
 /// a file that is no picture. Large files are read at the wanted size where their format allows it.
 QPixmap fitted(const QString &path, const QSize &size);
 
+/// Whether a picture can be read to its end; of one that was cut short many formats show the rest as grey.
+bool isWhole(const QString &path);
+
 } // namespace Picture

@@ -59,6 +59,11 @@ void RunReport::add(Incident::Kind kind, const QString &piece, const QString &ca
     m_incidents.push_back(std::move(incident));
 }
 
+void RunReport::forget(Incident::Kind kind)
+{
+    std::erase_if(m_incidents, [kind](const Incident &incident) { return incident.kind == kind; });
+}
+
 QString describe(const Incident &incident, const Localisation &localisation)
 {
     Localisation windows = localisation;

@@ -33,6 +33,8 @@ struct Incident {
 class RunReport {
 public:
     void add(Incident::Kind kind, const QString &piece, const QString &cause);
+    /// Takes out what is about to be looked at again.
+    void forget(Incident::Kind kind);
     const std::vector<Incident> &incidents() const { return m_incidents; }
 
 private:

@@ -1,6 +1,7 @@
 #include "shop/ShopCheck.h"
 
 #include "platform/CodePage.h"
+#include "platform/OneLine.h"
 #include "shell/HtmlVersTexte.h"
 #include "shop/CompanyInfo.h"
 
@@ -58,7 +59,10 @@ private:
             for (const ShippingMethod &method : s.fpSpread12)
                 if (method.value.contains(u','))
                     add(Finding::CommaInShippingPrice, method.name, u"fpSpread12"_s);
+        if (isNumber(s.txtMin) && s.txtMin.trimmed().toDouble() < 0)
+            add(Finding::NegativeMinimum, s.txtMin, u"txtMin"_s);
         numbers();
+        lines();
         if (holdsAny(s.txtSymbol, u"'\"\\"))
             add(Finding::QuoteInSetting, s.txtSymbol, u"txtSymbol"_s);
         logo();
@@ -69,19 +73,43 @@ private:
             add(Finding::NoPaymentAccount, {}, u"txtPPEmail"_s);
         else if (s.txtPPEmail == DeliveredPayment::account)
             add(Finding::DeliveredPaymentAccount, s.txtPPEmail, u"txtPPEmail"_s);
-        const std::pair<QString, QString> texts[] = {{u"txtTitre"_s, s.txtTitre},
-                                                     {u"txtmessage"_s, s.txtmessage},
-                                                     {u"txtModalite"_s, s.txtModalite},
-                                                     {u"txtExpedition"_s, s.txtExpedition},
-                                                     {u"txtPrivacy"_s, s.txtPrivacy},
-                                                     {u"txtKeyword"_s, s.txtKeyword},
-                                                     {u"txtDescription"_s, s.txtDescription}};
+        const std::pair<QString, QString> texts[] = {
+            {u"txtmessage"_s, s.txtmessage},       {u"txtModalite"_s, s.txtModalite},
+            {u"txtExpedition"_s, s.txtExpedition}, {u"txtPrivacy"_s, s.txtPrivacy},
+            {u"txtKeyword"_s, s.txtKeyword},       {u"txtDescription"_s, s.txtDescription}};
+        if (s.chSearch && s.txtTitre.contains(u'\\'))
+            add(Finding::QuoteInText, s.txtTitre, u"txtTitre"_s);
         for (const auto &[control, text] : texts) {
             if (losesCharacters(text))
                 add(Finding::CharactersLost, text.left(40), control);
             if (s.chSearch && text.contains(u'\\'))
                 add(Finding::QuoteInText, text.left(40), control);
         }
+    }
+
+    /// A field of one line; the scripts and pages hold it in one line too.
+    void line(const QString &text, const QString &subject, const QString &control = {})
+    {
+        if (losesCharacters(text))
+            add(Finding::CharactersLost, subject, control);
+        if (oneLine(text) != text)
+            add(Finding::ControlCharacter, oneLine(subject), control);
+    }
+
+    void lines()
+    {
+        const ShopSettings &s = m_data.settings;
+        const std::pair<QString, QString> fields[] = {
+            {u"txtFile"_s, s.txtFile},       {u"txtFrais"_s, s.txtFrais},       {u"txtlbFrais"_s, s.txtlbFrais},
+            {u"txtTaxe"_s, s.txtTaxe},       {u"txtlbTaxe"_s, s.txtlbTaxe},     {u"txtForm"_s, s.txtForm},
+            {u"txtDest"_s, s.txtDest},       {u"txtExp"_s, s.txtExp},           {u"txtSymbol"_s, s.txtSymbol},
+            {u"txtPPEmail"_s, s.txtPPEmail}, {u"txtPPRetour"_s, s.txtPPRetour}, {u"txtPPDevise"_s, s.txtPPDevise},
+            {u"txtMin"_s, s.txtMin},         {u"txtTitre"_s, s.txtTitre}};
+        for (const auto &[control, text] : fields)
+            line(text, text.left(40), control);
+        if (!s.chGratuit)
+            for (const ShippingMethod &method : s.fpSpread12)
+                line(method.name + method.value, method.name, u"fpSpread12"_s);
     }
 
     static bool isNumber(const QString &text)
@@ -105,21 +133,24 @@ private:
         for (const ShippingMethod &method : s.fpSpread12) {
             if (!method.value.isEmpty() && !method.value.contains(u',') && !isNumber(method.value))
                 add(Finding::NotANumber, method.name + u": "_s + method.value, u"fpSpread12"_s);
+            if (method.name.trimmed().isEmpty() && !method.value.trimmed().isEmpty())
+                add(Finding::ShippingWithoutName, method.value, u"fpSpread12"_s);
             if (holdsAny(method.name, u"'\"\\"))
                 add(Finding::QuoteInSetting, method.name, u"fpSpread12"_s);
         }
     }
 
-    /// The banner names the logo by its file name alone; the file comes from the setting or the company data.
+    /// The banner names the logo by its file name alone.
     void logo()
     {
         const ShopSettings &s = m_data.settings;
         if (s.txtFile.isEmpty())
             return;
-        const QString source =
-            s.txtFile == u"logo.gif"_s && s.txtLogo.isEmpty() ? m_data.info(13).trimmed() : s.txtLogo;
+        if (holdsAny(s.txtFile, u"/\\:*?\"<>|#%"))
+            add(Finding::BadFileName, s.txtFile, u"txtFile"_s);
+        const QString source = m_data.logoSource();
         if (source.isEmpty() || !QFileInfo(m_session.filePath(source)).isFile())
-            add(Finding::PictureGone, s.txtFile, u"txtLogo"_s);
+            add(Finding::PictureGone, s.txtFile, s.txtLogo.isEmpty() ? u"txtFile"_s : u"txtLogo"_s);
     }
 
     /// The lines that the contact page and the checkouts show.
@@ -130,10 +161,12 @@ private:
         if (!read)
             add(Finding::CatalogueNotRead, read.message());
         for (const size_t position : {1, 2, 4, 5, 7, 8, 9}) {
-            if (!m_data.info(int(position)).trimmed().isEmpty())
-                continue;
             const QString label = position <= rows.size() ? rows[position - 1].sInfo : QString();
-            add(Finding::EmptyCompanyLine, QString::number(position) + u" ("_s + label + u')');
+            const QString subject = QString::number(position) + u" ("_s + label + u')';
+            if (m_data.info(int(position)).trimmed().isEmpty())
+                add(Finding::EmptyCompanyLine, subject);
+            else
+                line(m_data.info(int(position)), subject);
         }
     }
 
@@ -290,6 +323,14 @@ QString frenchLine(Finding::Kind kind)
         return u"La référence « %1 » ne peut pas donner un nom de page."_s;
     case Finding::NoGroup:
         return u"L’article %1 n’a pas de groupe ou de sous-groupe : il n’a pas de page dans la boutique."_s;
+    case Finding::BadFileName:
+        return u"« %1 » ne peut pas être un nom de fichier dans la boutique."_s;
+    case Finding::ControlCharacter:
+        return u"« %1 » contient un retour à la ligne ou un caractère invisible, qui couperait les pages de la boutique."_s;
+    case Finding::NegativeMinimum:
+        return u"La commande minimum est négative (%1). Mettez au moins 0."_s;
+    case Finding::ShippingWithoutName:
+        return u"Le prix du transport « %1 » n’a pas de nom : il ne sera pas enregistré."_s;
     case Finding::CatalogueNotRead:
         return u"Le catalogue n’a pas pu être lu : %1"_s;
     }

@@ -29,6 +29,10 @@ struct Finding {
         QuoteInSetting,
         BadReference,
         NoGroup,
+        BadFileName,
+        ControlCharacter,
+        NegativeMinimum,
+        ShippingWithoutName,
     };
     Kind kind;
     QString subject; ///< the product, the name or the field it is about

@@ -17,4 +17,6 @@ struct ShopData {
 
     /// Position `n` of the company data, from 1; empty behind the last.
     QString info(int n) const { return gInfo.value(n - 1); }
+    /// Path of the picture for the banner: the chosen one, else that of the company; empty when there is neither.
+    QString logoSource() const { return settings.txtLogo.isEmpty() ? info(13).trimmed() : settings.txtLogo; }
 };

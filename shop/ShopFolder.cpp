@@ -120,6 +120,14 @@ void ShopFolder::copyLogo(const QString &path)
         copy(path, imagesFolder + u"logo.gif"_s, Incident::LogoNotCopied);
 }
 
+void ShopFolder::copyBannerLogo(const QString &sourcePath, const QString &fileName)
+{
+    if (!isAcceptable(fileName))
+        m_report.add(Incident::LogoNotCopied, fileName, u"no file name"_s);
+    else if (copy(sourcePath, imagesFolder + fileName, Incident::LogoNotCopied))
+        m_pictures.insert(fileName, sourcePath);
+}
+
 void ShopFolder::checkAssets(const ShopData &data)
 {
     for (const QString &name : assetsOf(data))

@@ -20,6 +20,8 @@ public:
     bool prepare(const QString &imgFolder);
     /// Copies the company's logo to `images/logo.gif`; a blank path means that there is none.
     void copyLogo(const QString &path);
+    /// Copies the logo of the banner to `images` under the name that the pages give it.
+    void copyBannerLogo(const QString &sourcePath, const QString &fileName);
     /// Reports each asset that the pages of this shop load and that is not there.
     void checkAssets(const ShopData &data);
     /// Removes what `prepare` marked and nothing wrote since. Files that their owner may not write stay.

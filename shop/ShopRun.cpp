@@ -15,16 +15,6 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
-void checkLanguageFile(const QString &path, RunReport &report)
-{
-    const QString name = QFileInfo(path).fileName();
-    IniFile file;
-    if (const Result loaded = file.load(path); !loaded)
-        report.add(Incident::LanguageFile, name, loaded.text());
-    for (const QString &remark : file.remarks())
-        report.add(Incident::LanguageFile, name, remark);
-}
-
 /// Writes the pages and keeps the plain text of those that the search knows.
 class IndexingOutput : public ShopOutput {
 public:
@@ -68,12 +58,8 @@ ShopData readShopData(Session &session, const std::optional<QString> &language, 
     data.language = ShopLanguage::choose(languages, data.settings.sLangueHtm, session.localisation.gsLangue);
     session.localisation.gbLangueCatalogue = true;
     session.localisation.gsLangueCatalogue = data.language.gsLangueCatalogue;
-    checkLanguageFile(session.localisation.fileName(data.language.gsLangueCatalogue), report);
     data.words = Traduction::read(session.localisation);
-    if (const int missing = data.words.missing())
-        report.add(Incident::LanguageFile,
-                   QFileInfo(session.localisation.fileName(data.language.gsLangueCatalogue)).fileName(),
-                   u"texts missing in [CATALOG]: "_s + QString::number(missing));
+    checkShopLanguage(data, session, report);
     data.gInfo = session.gInfo;
     data.gsLogin = session.gsLogin;
     data.gsMonnaie = session.gsMonnaie;
@@ -81,10 +67,25 @@ ShopData readShopData(Session &session, const std::optional<QString> &language, 
     return data;
 }
 
+void checkShopLanguage(const ShopData &data, const Session &session, RunReport &report)
+{
+    const QString path = session.localisation.fileName(data.language.gsLangueCatalogue);
+    const QString name = QFileInfo(path).fileName();
+    IniFile file;
+    if (const Result loaded = file.load(path); !loaded)
+        report.add(Incident::LanguageFile, name, loaded.text());
+    for (const QString &remark : file.remarks())
+        report.add(Incident::LanguageFile, name, remark);
+    if (const int missing = data.words.missing())
+        report.add(Incident::LanguageFile, name, u"texts missing in [CATALOG]: "_s + QString::number(missing));
+}
+
 void genererBoutique(const ShopData &data, const Selection &selection, Session &session, ShopFolder &folder,
                      RunReport &report)
 {
     folder.beginRun();
+    if (const QString source = data.logoSource(); !source.isEmpty() && !data.settings.txtFile.isEmpty())
+        folder.copyBannerLogo(session.filePath(source), data.settings.txtFile);
     SearchIndex index(data.settings.txtTitre);
     IndexingOutput output(folder, data.settings.chSearch ? &index : nullptr);
     const auto writeAll = [&output](const std::vector<Page> &pages) {

@@ -2,7 +2,10 @@
 
 #include "platform/Desktop.h"
 #include "platform/Messages.h"
+#include "platform/OneLine.h"
+#include "platform/Picture.h"
 #include "shell/Screens.h"
+#include "shop/CheckPanel.h"
 #include "shop/SettingsControls.h"
 #include "shop/ShopRun.h"
 #include "ui_frmCatalogue.h"
@@ -11,8 +14,6 @@
 #include <QDir>
 #include <QFileInfo>
 #include <QHeaderView>
-#include <QImageReader>
-#include <QSet>
 #include <QTabBar>
 #include <QTimer>
 
@@ -26,7 +27,6 @@ enum ShippingColumn { MethodName = 1, MethodValue };
 constexpr int themes = 30;
 constexpr int shippingRows = 8;
 constexpr int shippingRowHeight = 25;
-constexpr int controlRole = Qt::UserRole;
 constexpr QSize themePicture(720, 44);
 
 /// The hourglass for as long as it lives.
@@ -82,7 +82,7 @@ void frmCatalogue::wire()
             [this](const QModelIndex &index) { chooseTheme(index.row() + 1); });
     connect(m_ui->cmdControle, &QPushButton::clicked, this, &frmCatalogue::check);
     connect(m_ui->lstControle, &QListWidget::itemActivated, this,
-            [this](const QListWidgetItem *item) { leadTo(item->data(controlRole).toString()); });
+            [this](const QListWidgetItem *item) { leadTo(CheckPanel::controlOf(*item)); });
     connect(m_ui->cmdValider, &QPushButton::clicked, this, &frmCatalogue::generate);
     connect(m_ui->cmdFtp, &QPushButton::clicked, this, [this] { session().screens->showFtp(this); });
     connect(m_ui->cmdFermer, &QPushButton::clicked, this, &frmCatalogue::reject);
@@ -117,6 +117,9 @@ void frmCatalogue::chooseLanguage()
     const Language &language = m_languages[size_t(m_ui->cbLangue->currentIndex())];
     m_data.language = {language.code, language.code, language.name};
     session().localisation.gsLangueCatalogue = language.code;
+    m_report.forget(Incident::LanguageFile);
+    checkShopLanguage(takeData(), session(), m_report);
+    check();
 }
 
 void frmCatalogue::showSettings()
@@ -154,7 +157,7 @@ ShopSettings frmCatalogue::takeSettings() const
     settings.fpSpread12.clear();
     const Spread &grid = *m_ui->fpSpread12;
     for (int row = 1; row <= grid.MaxRows(); ++row)
-        if (const ShippingMethod method{grid.text(MethodName, row), grid.text(MethodValue, row)};
+        if (const ShippingMethod method{oneLine(grid.text(MethodName, row)), oneLine(grid.text(MethodValue, row))};
             !method.name.isEmpty() || !method.value.isEmpty())
             settings.fpSpread12.push_back(method);
     return settings;
@@ -243,7 +246,7 @@ void frmCatalogue::chooseLogo()
     const std::optional<PickedFile> picked = session().screens->pickPicture(this);
     if (!picked)
         return;
-    if (QImageReader::imageFormat(picked->path).isEmpty()) {
+    if (!Picture::isWhole(picked->path)) {
         session().messages->box(
             describe({Incident::LogoNotCopied, picked->name, u"not a picture"_s}, session().localisation),
             u"ZELVANTOR"_s);
@@ -251,7 +254,9 @@ void frmCatalogue::chooseLogo()
     }
     m_ui->txtLogo->setText(picked->path);
     m_ui->txtFile->setText(picked->name);
-    m_folder.picture(picked->path, picked->name);
+    m_report.forget(Incident::LogoNotCopied);
+    m_folder.copyBannerLogo(picked->path, picked->name);
+    check();
 }
 
 ShopData frmCatalogue::takeData() const
@@ -266,12 +271,6 @@ ShopData frmCatalogue::takeData() const
     return shop;
 }
 
-void frmCatalogue::listFinding(const QString &line, const QString &control)
-{
-    auto *item = new QListWidgetItem(line, m_ui->lstControle);
-    item->setData(controlRole, control);
-}
-
 void frmCatalogue::finishEditing()
 {
     for (Spread *grid : {m_ui->fpSpread2, m_ui->fpSpread12})
@@ -282,18 +281,8 @@ void frmCatalogue::check()
 {
     finishEditing();
     const Busy busy;
-    m_ui->lstControle->clear();
-    QSet<QString> picturesTold;
-    for (const Incident &incident : m_report.incidents()) {
-        listFinding(describe(incident, session().localisation), {});
-        if (incident.kind == Incident::PictureNotCopied)
-            picturesTold.insert(incident.piece);
-    }
-    for (const Finding &finding : checkShop(takeData(), takeSelection(), session())) {
-        // A picture that the run has missed already needs no second line.
-        if (finding.kind != Finding::PictureGone || !picturesTold.contains(finding.subject.section(u" / "_s, 1)))
-            listFinding(describe(finding, session().localisation), finding.control);
-    }
+    CheckPanel::fill(*m_ui->lstControle, m_report, checkShop(takeData(), takeSelection(), session()),
+                     session().localisation);
     m_ui->lbEtat->setText(m_ui->lstControle->count() == 0 ? u"✓"_s : QString());
 }
 
@@ -315,6 +304,7 @@ void frmCatalogue::generate()
         m_report = RunReport();
         m_folder.yield = [] { QApplication::processEvents(QEventLoop::ExcludeUserInputEvents); };
         const ShopData shop = takeData();
+        checkShopLanguage(shop, session(), m_report);
         genererBoutique(shop, takeSelection(), session(), m_folder, m_report);
         (void)SaveParam(shop.settings, session(), &m_report);
         setRunning(false);

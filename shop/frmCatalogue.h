@@ -41,7 +41,6 @@ private:
     void check();
     void generate();
     void setRunning(bool running);
-    void listFinding(const QString &line, const QString &control);
     void leadTo(const QString &control);
 
     std::unique_ptr<Ui::frmCatalogue> m_ui;

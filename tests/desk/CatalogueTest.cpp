@@ -56,6 +56,7 @@ private Q_SLOTS:
     void whatIsPassedOverIsListed();
     void findingsLeadToTheirField();
     void logoIsPickedAndCopied();
+    void settingsThatBreakPagesAreFound();
 };
 
 void CatalogueTest::firstOpeningShowsTheDefaults()
@@ -270,6 +271,46 @@ void CatalogueTest::logoIsPickedAndCopied()
     pick(gif, 1);
     QCOMPARE(control<QLineEdit>(window, "txtFile").text(), u"enseigne.gif"_s);
     QCOMPARE(desk.messages.boxes.size(), 1);
+    // A name typed by hand gets its picture with the next run; one that is none is told, and leads to its field.
+    control<QLineEdit>(window, "txtFile").setText(u"autre.gif"_s);
+    control<QPushButton>(window, "cmdValider").click();
+    QVERIFY(QFile::exists(desk.path(u"data/temp/images/autre.gif"_s)));
+    control<QLineEdit>(window, "txtFile").setText(u"a/b.gif"_s);
+    control<QPushButton>(window, "cmdValider").click();
+    QCOMPARE(linesOf(window).filter(u"a/b.gif"_s).size(), 2);
+    QFile::remove(folder + u"/enseigne.gif"_s);
+    control<QLineEdit>(window, "txtFile").setText(u"enseigne.gif"_s);
+    for (int run = 0; run < 2; ++run) {
+        control<QPushButton>(window, "cmdValider").click();
+        QCOMPARE(linesOf(window).filter(u"enseigne.gif"_s).size(), 1);
+    }
+}
+
+void CatalogueTest::settingsThatBreakPagesAreFound()
+{
+    Desk desk;
+    desk.openSample();
+    desk.sql(u"UPDATE REF_INFO SET sValeur = 'a\nb Ω' WHERE idInfo = 2"_s);
+    (void)AfficherInfo(desk.session);
+    Files::write(desk.path(u"data/NL.cda"_s), "no sign\n");
+    frmCatalogue window(desk.session, nullptr);
+    control<QLineEdit>(window, "txtSymbol").setText(u"₹"_s);
+    control<QLineEdit>(window, "txtMin").setText(u"-5"_s);
+    control<QLineEdit>(window, "txtTitre").setText(u"a\nb"_s);
+    control<Spread>(window, "fpSpread12").setText(2, 1, u"4.50"_s);
+    for (const bool run : {false, true}) {
+        control<QPushButton>(window, run ? "cmdValider" : "cmdControle").click();
+        const QString lines = linesOf(window).join(u'\n');
+        for (const QString &part :
+             {u"« ₹ » contient des car"_s, u"négative (-5)"_s, u"« 4.50 » n’a pas de nom"_s, u"retour à la ligne"_s})
+            QVERIFY2(lines.count(part) == 1, qPrintable(part + u'\n' + lines));
+        QCOMPARE(lines.count(u"windows-1252"_s), run ? 3 : 0);
+    }
+    control<QComboBox>(window, "cbLangue").setCurrentText(u"Nederlands"_s);
+    for (int run = 0; run < 2; ++run) {
+        QVERIFY(!linesOf(window).filter(u"NL.cda"_s).isEmpty());
+        control<QPushButton>(window, "cmdValider").click();
+    }
 }
 
 ZELVANTOR_SUITE(CatalogueTest)

@@ -1,0 +1,58 @@
+#include "shop/CheckPanel.h"
+
+#include "shell/Localisation.h"
+
+#include <QListWidget>
+#include <QSet>
+
+using namespace Qt::StringLiterals;
+
+namespace {
+
+constexpr int controlRole = Qt::UserRole;
+constexpr int linesOfOneCause = 3;
+
+void add(QListWidget &list, const QString &line, const QString &control)
+{
+    auto *item = new QListWidgetItem(line, &list);
+    item->setData(controlRole, control);
+}
+
+} // namespace
+
+void CheckPanel::fill(QListWidget &list, const RunReport &report, const std::vector<Finding> &findings,
+                      const Localisation &localisation)
+{
+    list.clear();
+    QSet<QString> picturesTold;
+    bool logoTold = false;
+    int lost = 0;
+    for (const Incident &incident : report.incidents()) {
+        // One character in the banner is lost in every page.
+        if (incident.kind == Incident::CharactersLost && ++lost > linesOfOneCause)
+            continue;
+        const bool isLogo = incident.kind == Incident::LogoNotCopied;
+        logoTold = logoTold || isLogo;
+        add(list, describe(incident, localisation), isLogo ? u"txtFile"_s : QString());
+        if (incident.kind == Incident::PictureNotCopied)
+            picturesTold.insert(incident.piece);
+    }
+    if (lost > linesOfOneCause) {
+        Localisation windows = localisation;
+        windows.gbLangueCatalogue = false;
+        add(list, windows.Traduire(u"RUN"_s, u"more4"_s).replace(u"%1"_s, QString::number(lost - linesOfOneCause)), {});
+    }
+    for (const Finding &finding : findings) {
+        // A picture that the run has missed already needs no second line.
+        const bool isLogo = !finding.control.isEmpty();
+        if (finding.kind == Finding::PictureGone
+            && (isLogo ? logoTold : picturesTold.contains(finding.subject.section(u" / "_s, 1))))
+            continue;
+        add(list, describe(finding, localisation), finding.control);
+    }
+}
+
+QString CheckPanel::controlOf(const QListWidgetItem &line)
+{
+    return line.data(controlRole).toString();
+}
