@@ -42,7 +42,7 @@ FtpSettings FtpSettings::load(const SettingsStore &store)
     const QString passive = text(u"Passive"_s);
     settings.Passive = passive.isEmpty() || passive.compare(u"true"_s, Qt::CaseInsensitive) == 0 || passive == u"-1"_s
                        || passive == u"1"_s;
-    settings.Timeout = stored(store, u"Timeout"_s, settings.Timeout);
+    settings.takeTimeout(text(u"Timeout"_s));
     settings.RemotePort = stored(store, u"RemotePort"_s, settings.RemotePort);
     const int tls = stored(store, u"Tls"_s, int(FtpTls::Automatic));
     if (tls >= int(FtpTls::Automatic) && tls <= int(FtpTls::Never))

@@ -1,78 +1,26 @@
 #include "platform/FtpClient.h"
 
 #include "platform/CodePage.h"
+#include "platform/FtpReply.h"
 #include "platform/FtpWire.h"
 
 #include <QCoreApplication>
 #include <QEventLoop>
 #include <QRegularExpression>
-#include <QStringDecoder>
 #include <QUrl>
 
 #include <thread>
 
 using namespace Qt::StringLiterals;
+using namespace FtpReply;
 
 namespace {
-
-/// What the server sends is UTF-8 where it can be, else the 8-bit code page.
-QString decode(QByteArrayView bytes, bool *isUtf8 = nullptr)
-{
-    QStringDecoder decoder(QStringDecoder::Utf8);
-    const QString text = decoder(bytes);
-    if (isUtf8)
-        *isUtf8 = !decoder.hasError();
-    return decoder.hasError() ? CodePage::decode(bytes) : text;
-}
-
-/// A line break would put a second command on the control connection.
-bool isSafe(const QString &text)
-{
-    return !text.contains(u'\r') && !text.contains(u'\n') && !text.contains(QChar(0));
-}
-
-int operationOf(const QByteArray &command)
-{
-    if (command.startsWith("RETR "))
-        return FtpOperation::Retrieve;
-    if (command.startsWith("STOR ") || command.startsWith("APPE "))
-        return FtpOperation::Store;
-    return command.startsWith("MKD ") ? FtpOperation::MakeDirectory : FtpOperation::Other;
-}
 
 int operationOf(FtpRequest::Kind kind)
 {
     if (kind == FtpRequest::Kind::Retrieve)
         return FtpOperation::Retrieve;
     return kind == FtpRequest::Kind::Store ? FtpOperation::Store : FtpOperation::Other;
-}
-
-FtpProgress::Status statusOf(int code)
-{
-    if (code >= 400)
-        return FtpProgress::Failed;
-    return code >= 200 && code < 300 ? FtpProgress::Done : FtpProgress::Running;
-}
-
-/// The directory of a 257 reply, a doubled quote standing for one (RFC 959, appendix II).
-QString quotedDirectory(const QString &reply)
-{
-    const qsizetype first = reply.indexOf(u'"');
-    QString directory;
-    for (qsizetype i = first + 1; first >= 0 && i < reply.size(); ++i) {
-        if (reply[i] == u'"' && (++i >= reply.size() || reply[i] != u'"'))
-            return directory;
-        directory += reply[i];
-    }
-    return {};
-}
-
-/// The size that an opening reply announces, -1 for none.
-qint64 announcedSize(const QString &reply)
-{
-    static const QRegularExpression size(u"\\((\\d+) bytes"_s);
-    const QRegularExpressionMatch match = size.match(reply);
-    return match.hasMatch() ? match.captured(1).toLongLong() : -1;
 }
 
 } // namespace
@@ -189,7 +137,8 @@ void FtpClient::Private::settle(const FtpRequest &request, const FtpOutcome &out
         close();
         return;
     }
-    if (outcome.code == CURLE_OK && !outcome.localFailure)
+    const bool nothingSent = outcome.localFailure && outcome.exchanges.empty();
+    if (nothingSent || (outcome.code == CURLE_OK && !outcome.localFailure))
         return;
     const bool refused = last && last->code >= 400 && wire.hasConnection();
     if (refused && !outcome.aborted)

@@ -81,6 +81,12 @@ void FtpVerifier::setHost(const QString &host)
 void FtpVerifier::install(void *sslContext)
 {
     auto *context = static_cast<SSL_CTX *>(sslContext);
+    // Read once for all connections: the bundle of all authorities takes longer than a small file.
+    if (!m_authorities) {
+        m_authorities.reset(X509_STORE_new(), X509_STORE_free);
+        X509_STORE_set_default_paths(m_authorities.get());
+    }
+    SSL_CTX_set1_cert_store(context, m_authorities.get());
     SSL_CTX_set_verify(context, SSL_VERIFY_PEER, nullptr);
     SSL_CTX_set_cert_verify_callback(context, FtpVerifierCall::verify, this);
 }

@@ -4,7 +4,10 @@
 #include <QByteArray>
 #include <QSet>
 
+#include <memory>
 #include <optional>
+
+struct x509_store_st;
 
 /// Judges the certificate of a server: trusted by the system and made out to the host, or accepted before by its
 /// fingerprint. What is neither is noted for the merchant and the handshake ends, before any password is sent.
@@ -23,6 +26,7 @@ private:
     friend struct FtpVerifierCall;
 
     QString m_host;
+    std::shared_ptr<x509_store_st> m_authorities; ///< those of the system, OpenSSL's X509_STORE
     QSet<QString> m_accepted;
     std::optional<FtpCertificate> m_refused;
 };

@@ -245,6 +245,8 @@ void FtpWire::prepare()
     constexpr long maximum = long(CURL_SSLVERSION_TLSv1_2) << 16; // as CURL_SSLVERSION_MAX_TLSv1_2
     set(CURLOPT_SSLVERSION, long(CURL_SSLVERSION_TLSv1_2) | maximum);
     // The verifier looks at chain and name, since it knows what was accepted by hand.
+    curl_easy_setopt(m_easy, CURLOPT_CAINFO, nullptr);
+    curl_easy_setopt(m_easy, CURLOPT_CAPATH, nullptr);
     set(CURLOPT_SSL_VERIFYPEER, 0L);
     set(CURLOPT_SSL_VERIFYHOST, 0L);
     curl_easy_setopt(m_easy, CURLOPT_SSL_CTX_FUNCTION, &FtpWireCall::sslContext);

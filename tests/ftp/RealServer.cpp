@@ -86,7 +86,8 @@ QByteArray RealServer::tool(const QString &program, const QStringList &arguments
 void RealServer::vsftpd()
 {
     tool(u"openssl"_s, {u"req"_s, u"-x509"_s, u"-newkey"_s, u"rsa:2048"_s, u"-nodes"_s, u"-days"_s, u"30"_s, u"-subj"_s,
-                        u"/CN=shop.example"_s, u"-keyout"_s, path(u"key.pem"_s), u"-out"_s, path(u"cert.pem"_s)});
+                        u"/CN=shop.example"_s, u"-addext"_s, u"subjectAltName=IP:127.0.0.1"_s, u"-keyout"_s,
+                        path(u"key.pem"_s), u"-out"_s, path(u"cert.pem"_s)});
     const QString settings = u"listen=YES\nlisten_address=127.0.0.1\nlisten_port=%1\nbackground=NO\n"
                              "run_as_launching_user=YES\nanonymous_enable=YES\nlocal_enable=NO\nftp_username=nobody\n"
                              "anon_root=%2/root\nwrite_enable=YES\nanon_upload_enable=YES\n"

@@ -14,6 +14,8 @@ public:
     QString user() const;
     QString root() const { return m_folder.filePath(QStringLiteral("root")); }
 
+    QString certificate() const { return m_folder.filePath(QStringLiteral("cert.pem")); }
+
     static const QString password;
 
 private:

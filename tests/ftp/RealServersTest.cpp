@@ -115,6 +115,14 @@ void RealServersTest::certificates()
     QVERIFY(seen[0].from < seen[0].until && seen[0].from.daysTo(seen[0].until) == 30);
     client.Tls = FtpTls::Never;
     QVERIFY(!login(client, server));
+    // Known to the system, it is asked for only under another name.
+    qputenv("SSL_CERT_FILE", server.certificate().toUtf8());
+    FtpClient trusting;
+    QVERIFY(login(trusting, server));
+    trusting.onCertificate = client.onCertificate;
+    QVERIFY(trusting.Login(u"localhost"_s, server.user(), u"x"_s, {}, server.port()));
+    QCOMPARE(int(seen.size()), 3);
+    qunsetenv("SSL_CERT_FILE");
 }
 
 void RealServersTest::abort()
