@@ -38,17 +38,7 @@ RealServer::RealServer(Kind kind) : m_kind(kind), m_port(freePort())
     QFile::setPermissions(root(), QFile::Permissions(0x7777));
     m_process.setProcessChannelMode(QProcess::MergedChannels);
     QDir(m_folder.path()).mkdir(u"empty"_s);
-    switch (kind) {
-    case Kind::Vsftpd:
-        vsftpd();
-        break;
-    case Kind::Proftpd:
-        proftpd();
-        break;
-    case Kind::PureFtpd:
-        pureFtpd();
-        break;
-    }
+    kind == Kind::Vsftpd ? vsftpd() : kind == Kind::Proftpd ? proftpd() : pureFtpd();
     QElapsedTimer waited;
     for (waited.start(); m_process.state() != QProcess::NotRunning && !waited.hasExpired(10000);) {
         QTcpSocket probe;

@@ -84,11 +84,12 @@ void RemoteListingTest::sorting()
             list << row.text;
         return list.join(u' ');
     };
-    const PaneRows rows{Panes::upRow(),
-                        {u"b"_s, u"File"_s, u"9"_s, {}, {}, {}},
-                        {u"d"_s, u"FolderClose"_s, {}, {}, {}, {}},
-                        {u"A"_s, u"FolderLink"_s, u"10"_s, {}, {}, {}},
-                        {u"c"_s, u"FolderClose"_s, {}, {}, {}, {}}};
+    const auto row = [](const QString &name, const QString &icon, const QString &size) -> PaneRow {
+        return {name, icon, size, {}, {}, {}};
+    };
+    const QString folder = u"FolderClose"_s;
+    const PaneRows rows{Panes::upRow(), row(u"b"_s, u"File"_s, u"9"_s), row(u"d"_s, folder, {}),
+                        row(u"A"_s, u"FolderLink"_s, u"10"_s), row(u"c"_s, folder, {})};
     QCOMPARE(names(Panes::sorted(rows, PaneColumn::Name)), u" c d A b"_s);
     QCOMPARE(names(Panes::sorted(rows, PaneColumn::Size)), u" d c b A"_s); // as text, "9" beyond "10"
     QCOMPARE(Panes::uniqueName(rows, u"c"_s), u"c0"_s);

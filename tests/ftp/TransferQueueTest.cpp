@@ -93,53 +93,23 @@ private Q_SLOTS:
 
 void TransferQueueTest::uploadConflicts_data()
 {
-    using Decision = std::function<void(Desk &)>;
-    QTest::addColumn<Decision>("decision");
     QTest::addColumn<int>("asked");
-    QTest::addColumn<QByteArray>("a"); // there before as "12", to be replaced by "abcd"
-    QTest::addColumn<QByteArray>("b");
+    QTest::addColumn<QByteArray>("content"); // of two files that were "12", to be replaced by "abcd"
     QTest::addColumn<QString>("rows");
-    const auto row = [](const char *name, const Decision &decision, int asked, const char *a, const char *b,
-                        const QString &rows) {
-        QTest::newRow(name) << decision << asked << QByteArray(a) << QByteArray(b) << rows;
-    };
-    const auto all = [](Desk &desk) { Conflict::applyToAll(desk.desk.transfer, true); };
-    const QString both = u"Upload -->a|Upload -->b|Upload -->c"_s;
-    row(
-        "overwrite", [](Desk &d) { Conflict::overwrite(d.desk.transfer); }, 2, "abcd", "abcd", both);
-    row(
-        "overwrite all",
-        [all](Desk &d) {
-            all(d);
-            Conflict::overwrite(d.desk.transfer);
-        },
-        1, "abcd", "abcd", both);
-    row(
-        "resume", [](Desk &d) { Conflict::resume(d.desk.transfer); }, 2, "12cd", "12cd", both);
-    row(
-        "cancel", [](Desk &d) { Conflict::cancel(d.desk.transfer); }, 2, "12", "12", u"Upload -->c"_s);
-    row(
-        "closed by its frame", [](Desk &) {}, 2, "12", "12", u"Upload -->c"_s);
-    row(
-        "cancel all",
-        [all](Desk &d) {
-            all(d);
-            Conflict::cancel(d.desk.transfer);
-        },
-        1, "12", "12", u""_s);
+    const QString all = u"Upload -->a|Upload -->b|Upload -->c"_s;
+    QTest::newRow("overwrite") << 2 << QByteArray("abcd") << all;
+    QTest::newRow("all overwrite") << 1 << QByteArray("abcd") << all;
+    QTest::newRow("resume") << 2 << QByteArray("12cd") << all;
+    QTest::newRow("cancel") << 2 << QByteArray("12") << u"Upload -->c"_s;
+    QTest::newRow("closed by its frame") << 2 << QByteArray("12") << u"Upload -->c"_s;
+    QTest::newRow("all cancel") << 1 << QByteArray("12") << u""_s;
     // The old target goes out of the way; what follows goes on at the old size.
-    row(
-        "rename",
-        [](Desk &d) {
-            Conflict::rename(d.desk.transfer);
-            Conflict::renameTarget(d.desk, d.remote, u"old "_s + Conflict::nameOfTarget(d.desk.transfer));
-        },
-        2, "cd", "cd", both);
+    QTest::newRow("rename") << 2 << QByteArray("cd") << all;
 }
 
 void TransferQueueTest::uploadConflicts()
 {
-    QFETCH(std::function<void(Desk &)>, decision);
+    const QByteArray choice = QTest::currentDataTag();
     const RealServer server(RealServer::Kind::Proftpd);
     Files::write(server.root() + u"/a", "12");
     Files::write(server.root() + u"/b", "12");
@@ -150,12 +120,23 @@ void TransferQueueTest::uploadConflicts()
         Conflict::opened(desk.desk.transfer);
         QVERIFY(Conflict::message(desk.desk.transfer).endsWith(u"(4)"_s) && desk.desk.transfer.bStoring);
         QVERIFY(Conflict::canResume(desk.desk.transfer, false));
-        decision(desk);
+        if (choice.startsWith("all"))
+            Conflict::applyToAll(desk.desk.transfer, true);
+        if (choice.endsWith("overwrite"))
+            Conflict::overwrite(desk.desk.transfer);
+        else if (choice == "resume")
+            Conflict::resume(desk.desk.transfer);
+        else if (choice.endsWith("cancel"))
+            Conflict::cancel(desk.desk.transfer);
+        else if (choice == "rename") {
+            Conflict::rename(desk.desk.transfer);
+            Conflict::renameTarget(desk.desk, desk.remote, u"old "_s + Conflict::nameOfTarget(desk.desk.transfer));
+        }
     };
     desk.store({u"a"_s, u"b"_s, u"c"_s});
     QTEST(desk.view.conflicts, "asked");
-    QTEST(Files::read(server.root() + u"/a"), "a");
-    QTEST(Files::read(server.root() + u"/b"), "b");
+    QTEST(Files::read(server.root() + u"/a"), "content");
+    QTEST(Files::read(server.root() + u"/b"), "content");
     QTEST(desk.statusRows(), "rows");
     QVERIFY(!desk.desk.transfer.bCancel && desk.view.canLogout && !desk.view.canLogin);
 }

@@ -1,0 +1,247 @@
+#include "platform/FtpClientPrivate.h"
+
+#include "platform/CodePage.h"
+#include "platform/FtpReply.h"
+
+#include <QCoreApplication>
+#include <QEventLoop>
+
+#include <thread>
+
+using namespace Qt::StringLiterals;
+using namespace FtpReply;
+
+namespace {
+
+int operationOf(FtpRequest::Kind kind)
+{
+    if (kind == FtpRequest::Kind::Retrieve)
+        return FtpOperation::Retrieve;
+    return kind == FtpRequest::Kind::Store ? FtpOperation::Store : FtpOperation::Other;
+}
+
+} // namespace
+
+FtpClient::Private::Private(FtpClient &client) : q(client)
+{
+    const auto tell = [this](FtpProgress event) {
+        QMetaObject::invokeMethod(
+            &relay,
+            [this, event = std::move(event)] {
+                if (q.onProgress)
+                    q.onProgress(event);
+            },
+            Qt::QueuedConnection);
+    };
+    wire.onReply = [tell](const FtpExchange &exchange) {
+        const FtpProgress::Status status = statusOf(exchange.code);
+        tell({operationOf(exchange.command), status, decode(exchange.reply), 0});
+    };
+}
+
+FtpOutcome FtpClient::Private::run(FtpRequest &request)
+{
+    request.timeout = qMax(1, q.Timeout);
+    request.passive = q.Passive;
+    const int operation = operationOf(request.kind);
+    wire.onBytes = [this, operation](qint64 count) {
+        const auto event = [this, operation, count] {
+            if (q.onProgress && operation != FtpOperation::Other)
+                q.onProgress({operation, FtpProgress::Running, {}, count});
+        };
+        QMetaObject::invokeMethod(&relay, event, Qt::QueuedConnection);
+    };
+    busy = true;
+    wire.forgetAbort();
+    FtpOutcome outcome;
+    bool done = false;
+    QEventLoop loop;
+    std::thread worker([&] {
+        outcome = wire.run(request);
+        const auto end = [&done, &loop] {
+            done = true;
+            loop.quit();
+        };
+        QMetaObject::invokeMethod(&relay, end, Qt::QueuedConnection);
+    });
+    // The loop ends early only when the program does.
+    if (loop.exec(); !done)
+        wire.abort();
+    worker.join();
+    QCoreApplication::sendPostedEvents(&relay);
+    busy = false;
+    return outcome;
+}
+
+Result FtpClient::Private::failure(const FtpOutcome &outcome, const FtpExchange *judged) const
+{
+    if (outcome.aborted)
+        return {FtpError::Aborted, u"The operation was aborted."_s};
+    if (outcome.localFailure)
+        return {FtpError::LocalFile, outcome.error};
+    if (outcome.code == CURLE_USE_SSL_FAILED)
+        return {FtpError::Connection, u"The server offers no TLS."_s};
+    if (outcome.code != CURLE_OK)
+        judged = outcome.last();
+    if (judged && judged->code >= 400)
+        return {judged->code, decode(judged->reply).trimmed()};
+    if (outcome.code != CURLE_OK)
+        return {FtpError::Connection, outcome.error};
+    if (!judged || judged->code == 0)
+        return {FtpError::Connection, u"The server gave no reply."_s};
+    return {};
+}
+
+/// After a failure the connection is kept only where the last word was the server's own refusal; anything else may
+/// leave a reply on its way, which the next command would take for its own. A new login comes with the next
+/// command. The session is over when the server has ended it, or doesn't answer.
+void FtpClient::Private::settle(const FtpRequest &request, const FtpOutcome &outcome)
+{
+    const FtpExchange *last = outcome.last();
+    if (closing || (last && last->code == 421)) {
+        close();
+        return;
+    }
+    const bool nothingSent = outcome.localFailure && outcome.exchanges.empty();
+    if (nothingSent || (outcome.code == CURLE_OK && !outcome.localFailure))
+        return;
+    const bool refused = last && last->code >= 400 && wire.hasConnection();
+    if (refused && !outcome.aborted)
+        return;
+    wire.drop();
+    if (outcome.aborted || outcome.localFailure)
+        return;
+    const bool isLost = request.kind == FtpRequest::Kind::Commands || outcome.code == CURLE_OPERATION_TIMEDOUT;
+    if (isLost)
+        close();
+}
+
+Result FtpClient::Private::perform(FtpRequest &request, const char *word)
+{
+    if (busy)
+        return {FtpError::Busy, u"Another operation is running."_s};
+    if (state != Connected)
+        return {FtpError::NotConnected, u"There is no connection."_s};
+    for (const QByteArray &command : request.commands) {
+        if (!isSafe(decode(command)))
+            return {FtpError::BadName, u"A name must not hold a line break."_s};
+    }
+    if (!wire.hasConnection()) {
+        if (Result again = comeBack(); !again)
+            return again;
+    } else if (wire.isStale()) {
+        close();
+        return {FtpError::NotConnected, u"The server has closed the connection."_s};
+    }
+    const FtpOutcome &outcome = lastOutcome = run(request);
+    const FtpExchange *judged = outcome.exchange(word);
+    Result result = failure(outcome, judged);
+    if (result && request.kind == FtpRequest::Kind::Retrieve && request.type == Binary && request.offset == 0) {
+        const qint64 announced = judged ? announcedSize(decode(judged->opening)) : -1;
+        if (announced > outcome.count)
+            result = {FtpError::ShortTransfer, u"The file is shorter than the server announced."_s};
+    }
+    const bool isTold = !outcome.aborted && !outcome.localFailure && judged && judged->code >= 400;
+    if (!result && !isTold && q.onProgress)
+        q.onProgress({operationOf(request.kind), FtpProgress::Failed, result.text() + u"\r\n", 0});
+    settle(request, outcome);
+    return result;
+}
+
+/// Logs in again after a connection that was given up, and stands in the same folder. A request of its own, since
+/// libcurl goes to the first folder when a transfer came before it.
+Result FtpClient::Private::comeBack()
+{
+    FtpRequest request;
+    request.commands = {named("CWD", directory), "PWD"};
+    serverIsEbcdic = false;
+    const FtpOutcome &outcome = lastOutcome = run(request);
+    Result result = failure(outcome, outcome.exchange("PWD"));
+    if (result)
+        takeDirectory(directory);
+    settle(request, outcome);
+    return result;
+}
+
+Result FtpClient::Private::command(std::vector<QByteArray> commands, const char *word)
+{
+    FtpRequest request;
+    request.commands = std::move(commands);
+    return perform(request, word);
+}
+
+QString FtpClient::Private::replyTo(const char *word) const
+{
+    const FtpExchange *exchange = lastOutcome.exchange(word);
+    return exchange ? decode(exchange->reply) : QString();
+}
+
+void FtpClient::Private::takeDirectory(const QString &otherwise)
+{
+    const QString told = quotedDirectory(replyTo("PWD"));
+    directory = told.isEmpty() ? otherwise : told;
+}
+
+void FtpClient::Private::setState(int value)
+{
+    if (std::exchange(state, value) != value && q.onState)
+        q.onState(value);
+}
+
+void FtpClient::Private::close()
+{
+    closing = false;
+    wire.drop();
+    setState(Closed);
+}
+
+Result FtpClient::Private::login()
+{
+    while (true) {
+        FtpRequest request;
+        wire.verifier.forgetRefused();
+        const FtpOutcome outcome = lastOutcome = run(request);
+        Result result = failure(outcome, outcome.last());
+        if (closing) {
+            close();
+            return {FtpError::Aborted, u"The operation was aborted."_s};
+        }
+        if (result) {
+            takeDirectory(u"/"_s);
+            setState(Connected);
+            return result;
+        }
+        wire.drop();
+        const std::optional<FtpCertificate> refused = wire.verifier.refused();
+        if (!refused || outcome.aborted)
+            return result;
+        if (!q.onCertificate || !q.onCertificate(*refused))
+            return {FtpError::Certificate, u"The server's certificate was not accepted: "_s + refused->reason};
+        wire.verifier.accept(*refused);
+    }
+}
+
+Result FtpClient::Private::transfer(FtpRequest &request, const QString &remoteFile)
+{
+    const char *word = request.kind == FtpRequest::Kind::Retrieve ? "RETR" : request.append ? "APPE" : "STOR";
+    if (!isSafe(remoteFile))
+        return {FtpError::BadName, u"A name must not hold a line break."_s};
+    const QString separator = directory.endsWith(u'/') ? u""_s : u"/"_s;
+    request.path = encode(remoteFile.startsWith(u'/') ? remoteFile : directory + separator + remoteFile);
+    request.type = q.Type;
+    if (q.Type == Ebcdic) {
+        if (Result refused = command({"TYPE E"}, "TYPE"); !refused)
+            return refused;
+        serverIsEbcdic = true;
+    } else if (std::exchange(serverIsEbcdic, false)) {
+        request.commands.push_back("TYPE I");
+    }
+    return perform(request, word);
+}
+
+QByteArray FtpClient::Private::encode(const QString &text) const
+{
+    int lost = 0;
+    const QByteArray bytes = eightBit ? CodePage::encode(text, &lost) : QByteArray();
+    return eightBit && lost == 0 ? bytes : text.toUtf8();
+}
