@@ -5,6 +5,7 @@
 
 #include <QCoreApplication>
 #include <QEventLoop>
+#include <QTimer>
 
 #include <thread>
 
@@ -12,6 +13,8 @@ using namespace Qt::StringLiterals;
 using namespace FtpReply;
 
 namespace {
+
+constexpr int deliveryStep = 30; ///< milliseconds between two looks at the events of a transfer
 
 int operationOf(FtpRequest::Kind kind)
 {
@@ -24,19 +27,30 @@ int operationOf(FtpRequest::Kind kind)
 
 FtpClient::Private::Private(FtpClient &client) : q(client)
 {
-    const auto tell = [this](FtpProgress event) {
-        QMetaObject::invokeMethod(
-            &relay,
-            [this, event = std::move(event)] {
-                if (q.onProgress)
-                    q.onProgress(event);
-            },
-            Qt::QueuedConnection);
-    };
-    wire.onReply = [tell](const FtpExchange &exchange) {
+    wire.onReply = [this](const FtpExchange &exchange) {
         const FtpProgress::Status status = statusOf(exchange.code);
         tell({operationOf(exchange.command), status, decode(exchange.reply), 0});
     };
+}
+
+void FtpClient::Private::tell(FtpProgress event)
+{
+    const std::lock_guard lock(eventMutex);
+    events.push_back(std::move(event));
+}
+
+/// Several events at a time: to wake the caller's thread for each reply takes as long as a small file.
+void FtpClient::Private::deliver()
+{
+    std::vector<FtpProgress> ready;
+    {
+        const std::lock_guard lock(eventMutex);
+        ready.swap(events);
+    }
+    for (const FtpProgress &event : ready) {
+        if (q.onProgress)
+            q.onProgress(event);
+    }
 }
 
 FtpOutcome FtpClient::Private::run(FtpRequest &request)
@@ -45,17 +59,17 @@ FtpOutcome FtpClient::Private::run(FtpRequest &request)
     request.passive = q.Passive;
     const int operation = operationOf(request.kind);
     wire.onBytes = [this, operation](qint64 count) {
-        const auto event = [this, operation, count] {
-            if (q.onProgress && operation != FtpOperation::Other)
-                q.onProgress({operation, FtpProgress::Running, {}, count});
-        };
-        QMetaObject::invokeMethod(&relay, event, Qt::QueuedConnection);
+        if (operation != FtpOperation::Other)
+            tell({operation, FtpProgress::Running, {}, count});
     };
     busy = true;
     wire.forgetAbort();
     FtpOutcome outcome;
     bool done = false;
     QEventLoop loop;
+    QTimer delivery;
+    QObject::connect(&delivery, &QTimer::timeout, &relay, [this] { deliver(); });
+    delivery.start(deliveryStep);
     std::thread worker([&] {
         outcome = wire.run(request);
         const auto end = [&done, &loop] {
@@ -69,6 +83,7 @@ FtpOutcome FtpClient::Private::run(FtpRequest &request)
         wire.abort();
     worker.join();
     QCoreApplication::sendPostedEvents(&relay);
+    deliver();
     busy = false;
     return outcome;
 }

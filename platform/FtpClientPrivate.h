@@ -10,6 +10,8 @@ public:
     explicit Private(FtpClient &client);
 
     FtpOutcome run(FtpRequest &request);
+    void tell(FtpProgress event); ///< from the transfer thread
+    void deliver();
     /// Runs a request of the session; `word` is the command that it stands or falls with.
     Result perform(FtpRequest &request, const char *word);
     Result command(std::vector<QByteArray> commands, const char *word);
@@ -35,4 +37,6 @@ public:
     bool serverIsEbcdic = false; ///< what libcurl doesn't know of
     QString directory;
     FtpOutcome lastOutcome;
+    std::mutex eventMutex;
+    std::vector<FtpProgress> events; ///< not yet delivered
 };
