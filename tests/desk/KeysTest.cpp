@@ -1,7 +1,10 @@
 #include "catalogue/frmArticle.h"
 #include "catalogue/frmDlgOpenDoc.h"
 #include "catalogue/frmListProduct.h"
+#include "ftp/frmFTP.h"
 #include "platform/Spread.h"
+#include "reference/frmMaterial.h"
+#include "reference/frmRefDetail.h"
 #include "reference/frmTrad.h"
 #include "shell/frmAbout.h"
 #include "shell/frmDbPath.h"
@@ -39,12 +42,21 @@ const std::pair<const char *, std::unique_ptr<QWidget> (*)(Session &)> windows[]
     {"frmCatalogue", opened<frmCatalogue>},
     {"frmDbPath", opened<frmDbPath>},
     {"frmDlgOpenDoc", opened<frmDlgOpenDoc>},
+    {"frmFTP", [](Session &session) -> std::unique_ptr<QWidget> { return std::make_unique<frmFTP>(session, nullptr); }},
     {"frmInfo", opened<frmInfo>},
     {"frmListProduct", opened<frmListProduct>},
     {"frmLogin", opened<frmLogin>},
     {"frmMain", [](Session &session) -> std::unique_ptr<QWidget> { return std::make_unique<frmMain>(session); }},
+    {"frmMaterial",
+     [](Session &session) -> std::unique_ptr<QWidget> {
+         return std::make_unique<frmMaterial>(session, true, nullptr);
+     }},
     {"frmPW", opened<frmPW>},
     {"frmPays", opened<frmPays>},
+    {"frmRefDetail",
+     [](Session &session) -> std::unique_ptr<QWidget> {
+         return std::make_unique<frmRefDetail>(session, ReferenceSelection{}, nullptr);
+     }},
     {"frmTrad",
      [](Session &session) -> std::unique_ptr<QWidget> {
          return std::make_unique<frmTrad>(session, u"PARAM"_s, u"x"_s, nullptr);
