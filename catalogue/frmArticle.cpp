@@ -59,27 +59,27 @@ void frmArticle::fillCombos()
     Session &values = session();
     // A key of the product before would be stored though nothing is chosen here.
     values.glIdFamille = values.glIdCategorie = values.glIdFournisseur = values.glIdTvaA = values.glIdTvaV = 0;
-    m_category = std::make_unique<KeyCombo>(*m_ui->cbCategory, [this] { chooseCategory(); });
-    m_family = std::make_unique<KeyCombo>(*m_ui->cbFamille, [this] { chooseFamily(); });
-    m_supplier = std::make_unique<KeyCombo>(*m_ui->cbFournisseur,
-                                            [this] { session().glIdFournisseur = m_supplier->key().value_or(0); });
-    m_tvaA = std::make_unique<KeyCombo>(*m_ui->cbTVAA, [this] {
-        session().glIdTvaA = m_tvaA->key().value_or(0);
-        m_prices->chain().chooseTvaA(m_tvaA->number());
+    m_colCategorie = std::make_unique<KeyCombo>(*m_ui->cbCategory, [this] { chooseCategory(); });
+    m_colFamille = std::make_unique<KeyCombo>(*m_ui->cbFamille, [this] { chooseFamily(); });
+    m_colFournisseur = std::make_unique<KeyCombo>(
+        *m_ui->cbFournisseur, [this] { session().glIdFournisseur = m_colFournisseur->key().value_or(0); });
+    m_colTvaA = std::make_unique<KeyCombo>(*m_ui->cbTVAA, [this] {
+        session().glIdTvaA = m_colTvaA->key().value_or(0);
+        m_prices->chain().chooseTvaA(m_colTvaA->number());
     });
-    m_tvaV = std::make_unique<KeyCombo>(*m_ui->cbTvaV, [this] { chooseTvaV(); });
-    m_category->RemplirCB(values, u"REF_CATEGORIE_P"_s);
-    m_supplier->RemplirCB(values, u"REF_SHIPPER"_s);
-    m_tvaA->RemplirCB(values, u"REF_TVA"_s);
-    m_tvaV->RemplirCB(values, u"REF_TVA"_s);
-    m_bands->setRates(m_tvaV->rows().texts);
+    m_colTvaV = std::make_unique<KeyCombo>(*m_ui->cbTvaV, [this] { chooseTvaV(); });
+    m_colCategorie->RemplirCB(values, u"REF_CATEGORIE_P"_s);
+    m_colFournisseur->RemplirCB(values, u"REF_SHIPPER"_s);
+    m_colTvaA->RemplirCB(values, u"REF_TVA"_s);
+    m_colTvaV->RemplirCB(values, u"REF_TVA"_s);
+    m_bands->setRates(m_colTvaV->rows().texts);
     const int units = values.localisation.CompterCles(u"LUNITE"_s);
     for (int unit = 1; unit <= units; ++unit)
         m_ui->cbUnite->addItem(values.localisation.Traduire(u"LUNITE"_s, QString::number(unit)));
     m_ui->cbUnite->setCurrentIndex(0);
-    m_tvaA->choose(0);
-    m_tvaV->choose(0);
-    values.glIdTvaV = m_tvaV->key().value_or(0);
+    m_colTvaA->choose(0);
+    m_colTvaV->choose(0);
+    values.glIdTvaV = m_colTvaV->key().value_or(0);
     m_bands->chooseRate(0);
 }
 
@@ -177,12 +177,12 @@ void frmArticle::placeCombos()
 {
     const Session &values = session();
     const int family = values.glIdFamille;
-    m_category->chooseKey(values.glIdCategorie);
-    m_family->chooseKey(family);
+    m_colCategorie->chooseKey(values.glIdCategorie);
+    m_colFamille->chooseKey(family);
     m_attributes->AfficherFParam();
-    m_supplier->chooseKey(values.glIdFournisseur);
-    m_tvaA->chooseKey(values.glIdTvaA);
-    m_tvaV->chooseKey(values.glIdTvaV);
+    m_colFournisseur->chooseKey(values.glIdFournisseur);
+    m_colTvaA->chooseKey(values.glIdTvaA);
+    m_colTvaV->chooseKey(values.glIdTvaV);
 }
 
 void frmArticle::AfficherPrix()
@@ -212,15 +212,15 @@ void frmArticle::Initialiser()
 
 void frmArticle::chooseCategory()
 {
-    session().glIdCategorie = m_category->key().value_or(0);
-    m_sCategorie = m_category->text();
-    m_family->RemplirCB(session(), u"REF_FAMILLE"_s);
+    session().glIdCategorie = m_colCategorie->key().value_or(0);
+    m_sCategorie = m_colCategorie->text();
+    m_colFamille->RemplirCB(session(), u"REF_FAMILLE"_s);
 }
 
 void frmArticle::chooseFamily()
 {
-    session().glIdFamille = m_family->key().value_or(0);
-    m_sFamille = m_family->text();
+    session().glIdFamille = m_colFamille->key().value_or(0);
+    m_sFamille = m_colFamille->text();
     m_attributes->AfficherFParam();
 }
 
@@ -229,9 +229,9 @@ void frmArticle::chooseTvaV()
     PriceChain &chain = m_prices->chain();
     if (!chain.bChargement) {
         m_bands->chooseRate(m_ui->cbTvaV->currentIndex());
-        session().glIdTvaV = m_tvaV->key().value_or(0);
+        session().glIdTvaV = m_colTvaV->key().value_or(0);
     }
-    chain.chooseTvaV(m_tvaV->number());
+    chain.chooseTvaV(m_colTvaV->number());
 }
 
 /// Tells what is missing, and leads to it.

@@ -56,11 +56,11 @@ private:
     std::unique_ptr<BandGrid> m_bands;
     std::unique_ptr<AttachmentBlock> m_attachments;
     std::unique_ptr<AttributeGrid> m_attributes;
-    std::unique_ptr<KeyCombo> m_category;
-    std::unique_ptr<KeyCombo> m_family;
-    std::unique_ptr<KeyCombo> m_supplier;
-    std::unique_ptr<KeyCombo> m_tvaA;
-    std::unique_ptr<KeyCombo> m_tvaV;
+    std::unique_ptr<KeyCombo> m_colCategorie;
+    std::unique_ptr<KeyCombo> m_colFamille;
+    std::unique_ptr<KeyCombo> m_colFournisseur;
+    std::unique_ptr<KeyCombo> m_colTvaA;
+    std::unique_ptr<KeyCombo> m_colTvaV;
     BarcodeReader *m_reader;
     PrintEngine VPE1;
     std::optional<Article> m_stored; ///< as it was when this screen last read or wrote it

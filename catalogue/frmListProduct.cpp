@@ -42,14 +42,14 @@ frmListProduct::frmListProduct(Session &session, QWidget *parent)
         grid.setText(column, 0, headings[column - 1]);
     ScreenManners::apply(*this, m_session);
     m_droits = ChercherDroit(u"S1"_s, m_session.gsDroits);
-    m_category = std::make_unique<KeyCombo>(*m_ui->cbCategory, [this] {
-        m_session.glIdCategorie = m_category->key().value_or(0);
-        m_family->RemplirCB(m_session, u"REF_FAMILLE"_s);
+    m_colCategorie = std::make_unique<KeyCombo>(*m_ui->cbCategory, [this] {
+        m_session.glIdCategorie = m_colCategorie->key().value_or(0);
+        m_colFamille->RemplirCB(m_session, u"REF_FAMILLE"_s);
     });
-    m_family =
-        std::make_unique<KeyCombo>(*m_ui->cbFamille, [this] { m_session.glIdFamille = m_family->key().value_or(0); });
-    m_supplier = std::make_unique<KeyCombo>(*m_ui->cbFournisseur, [] {});
-    m_category->RemplirCB(m_session, u"REF_CATEGORIE_P"_s);
+    m_colFamille = std::make_unique<KeyCombo>(*m_ui->cbFamille,
+                                              [this] { m_session.glIdFamille = m_colFamille->key().value_or(0); });
+    m_colFournisseur = std::make_unique<KeyCombo>(*m_ui->cbFournisseur, [] {});
+    m_colCategorie->RemplirCB(m_session, u"REF_CATEGORIE_P"_s);
     m_ui->cmdAjouter->setEnabled(mayUse(*m_ui->cmdAjouter));
     for (const int column : {4, 11, 12, 13})
         grid.cells().setNumberColumn(column, 2);
@@ -126,8 +126,8 @@ void frmListProduct::wireKeys()
 
 ProductSearch::Filters frmListProduct::filters() const
 {
-    return {m_ui->txtRef_Article->text(), m_ui->txtMarque->text(), m_family->key(), m_category->key(),
-            m_supplier->key()};
+    return {m_ui->txtRef_Article->text(), m_ui->txtMarque->text(), m_colFamille->key(), m_colCategorie->key(),
+            m_colFournisseur->key()};
 }
 
 void frmListProduct::Rechercher()

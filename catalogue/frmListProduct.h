@@ -42,9 +42,9 @@ private:
 
     Session &m_session;
     std::unique_ptr<Ui::frmListProduct> m_ui;
-    std::unique_ptr<KeyCombo> m_category;
-    std::unique_ptr<KeyCombo> m_family;
-    std::unique_ptr<KeyCombo> m_supplier;
+    std::unique_ptr<KeyCombo> m_colCategorie;
+    std::unique_ptr<KeyCombo> m_colFamille;
+    std::unique_ptr<KeyCombo> m_colFournisseur;
     QString m_droits; ///< the rights of the screen
     int m_iLigne = 0; ///< the row last chosen
 };

@@ -231,6 +231,7 @@ void frmMain::changeEvent(QEvent *event)
 
 void frmMain::closeEvent(QCloseEvent *event)
 {
+    m_ui->mdi->closeAllSubWindows(); // each keeps what it has to keep
     event->accept();
     QLocale::setDefault(m_userLocale);
     Q_EMIT ended();

@@ -1,6 +1,7 @@
 #include "catalogue/ProductSearch.h"
 #include "catalogue/frmListProduct.h"
 #include "platform/Spread.h"
+#include "shell/frmMain.h"
 #include "tests/desk/Desk.h"
 #include "tests/support/Files.h"
 #include "tests/support/Suite.h"
@@ -11,6 +12,7 @@
 #include <QMdiSubWindow>
 #include <QPushButton>
 #include <QTest>
+#include <QToolButton>
 
 using namespace Qt::StringLiterals;
 
@@ -341,8 +343,9 @@ void ListTest::exportsWhatTheGridShows()
 void ListTest::opensOnceInTheFrame()
 {
     ListDesk desk;
-    QMdiArea frame;
-    frame.show();
+    frmMain main(desk.session);
+    main.show();
+    auto &frame = control<QMdiArea>(main, "mdi");
     desk.screens.showProducts(&frame);
     desk.screens.showProducts(&frame);
     QCOMPARE(frame.subWindowList().size(), 1);
@@ -352,8 +355,12 @@ void ListTest::opensOnceInTheFrame()
     QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
     QCOMPARE(frame.subWindowList().size(), 0);
     QVERIFY(!desk.setting(u"frmListProduit.fpSpread1"_s).isEmpty());
-    desk.screens.showProducts(&frame);
+    // Leaving the program closes the list in order too.
+    desk.setSetting(u"frmListProduit.fpSpread1"_s, QString());
+    control<QToolButton>(main, "produit").click();
     QCOMPARE(frame.subWindowList().size(), 1);
+    main.close();
+    QVERIFY(!desk.setting(u"frmListProduit.fpSpread1"_s).isEmpty());
 }
 
 ZELVANTOR_SUITE(ListTest)
