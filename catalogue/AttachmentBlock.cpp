@@ -43,6 +43,7 @@ void AttachmentBlock::AfficherDocs()
     if (!m_session.gbPhotos)
         fill(*m_documents, &Attachments::documents);
     fill(*m_pictures, &Attachments::pictures);
+    m_pictures->setCurrentRow(0); // the first one shows at once
     showPicture();
 }
 
