@@ -41,6 +41,14 @@ QString quoted(const QString &text)
     return u'"' + text + u'"';
 }
 
+/// With the slack that sums of decimal measures need.
+bool isWithin(const QRectF &box, const QRectF &room)
+{
+    constexpr double slack = 0.01;
+    return box.left() >= room.left() - slack && box.top() >= room.top() - slack && box.right() <= room.right() + slack
+           && box.bottom() <= room.bottom() + slack;
+}
+
 } // namespace
 
 PrintLayout LayoutReader::read(const QByteArray &json)
@@ -106,7 +114,7 @@ void LayoutReader::readCells(const QJsonObject &object)
     cells.gapY = number(object, place, u"gapY"_s, 0, 0);
     const QRectF last = cells.first.translated(cells.corner(cells.count() - 1) - cells.first.topLeft());
     const QRectF room = QRectF(QPointF(), m_layout.page).marginsRemoved(m_layout.margins);
-    if (!room.contains(cells.first.united(last)))
+    if (!isWithin(cells.first.united(last), room))
         return fail(PrintLayout::OffPage, u"cells"_s, u"leave the page"_s);
     cells.objects =
         readObjects(object.value(u"objects"_s).toArray(), place + u"objects"_s, QRectF(QPointF(), cells.first.size()));
@@ -121,9 +129,7 @@ QList<PrintObject> LayoutReader::readObjects(const QJsonArray &list, const QStri
         const QString here = place + u'[' + QString::number(i + 1) + u']';
         objects << readObject(list.at(i).toObject(), here + u'.');
         const QRectF &taken = objects.last().place;
-        if (m_result
-            && (taken.left() < room.left() || taken.top() < room.top() || taken.right() > room.right()
-                || taken.bottom() > room.bottom()))
+        if (m_result && !isWithin(taken, room))
             fail(PrintLayout::OffPage, here, u"leaves the page, its margins or its cell"_s);
     }
     return objects;

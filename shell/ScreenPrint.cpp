@@ -46,7 +46,9 @@ Result printInto(const QString &path, const QImage &picture)
 void ScreenPrint::start(QWidget &frame, const Session &session, std::chrono::milliseconds wait)
 {
     QTimer::singleShot(wait, &frame, [&frame, &session] {
-        const QImage picture = CapturerFenetre();
+        QImage picture = CapturerFenetre();
+        if (picture.isNull()) // another program is in front, and the platform keeps it to itself
+            picture = frame.grab().toImage();
         Result printed;
         if (const QPrinterInfo printer = QPrinterInfo::defaultPrinter(); !printer.isNull())
             printed = printOn(printer, picture);
