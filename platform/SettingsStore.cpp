@@ -50,6 +50,12 @@ Result hasRoom(const QString &path, qsizetype more)
     return {};
 }
 
+QByteArray bytesOf(const QString &path)
+{
+    QFile file(path);
+    return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray();
+}
+
 } // namespace
 
 QString SettingsStore::userFolder()
@@ -111,7 +117,13 @@ Result SettingsStore::keepUnreadable(const QString &application) const
 
 QString SettingsStore::unreadableName(const QString &application) const
 {
-    return fileName(application) + QStringLiteral(".bad");
+    const QString path = fileName(application);
+    const QString first = path + QStringLiteral(".bad");
+    QString name = first;
+    // An earlier damage keeps its copy.
+    for (int number = 2; QFile::exists(name) && bytesOf(name) != bytesOf(path); ++number)
+        name = first + QString::number(number);
+    return name;
 }
 
 Result SettingsStore::remove(const QString &application, const QString &section, const QString &name)

@@ -108,8 +108,11 @@ std::unique_ptr<frmMain> Main(Session &session)
         if (!login.LoginSucceeded)
             return nullptr;
     }
-    if (session.gCnn.isReadOnly())
-        session.messages->box(session.localisation.Traduire(u"RUN"_s, u"readonly"_s), u"ZELVANTOR"_s);
+    if (session.gCnn.isReadOnly()) {
+        const QString text = session.localisation.Traduire(u"RUN"_s, u"readonly"_s);
+        session.messages->box(text.isEmpty() ? u"Le catalogue est en lecture seule : rien ne sera enregistré."_s : text,
+                              u"ZELVANTOR"_s);
+    }
     frmSplash splash;
     splash.show();
     splash.repaint();

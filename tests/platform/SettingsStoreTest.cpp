@@ -128,6 +128,11 @@ void SettingsStoreTest::damagedFile()
     QVERIFY(store.check(u"A"_s));
     QCOMPARE(store.value(u"A"_s, u"ZELVANTOR"_s, u"LANGUE"_s), u"DE"_s);
     QCOMPARE(Files::read(folder.filePath(u"A.ini.bad"_s)), bytes);
+    Files::write(folder.filePath(u"A.ini"_s), "another damage\n");
+    SettingsStore again(folder.path());
+    QVERIFY(again.save(u"A"_s, u"ZELVANTOR"_s, u"LANGUE"_s, u"FR"_s));
+    QCOMPARE(Files::read(folder.filePath(u"A.ini.bad"_s)), bytes);
+    QCOMPARE(Files::read(folder.filePath(u"A.ini.bad2"_s)), QByteArray("another damage\n"));
 }
 
 void SettingsStoreTest::refusedValueIsNotStored()
