@@ -53,6 +53,9 @@ frmCatalogue::frmCatalogue(Session &screenSession, QWidget *parent)
     fillShipping();
     showSettings();
     prepareFolder();
+    m_prepared = m_report;
+    m_prepared.forget(Incident::LanguageFile); // looked at again by each run
+    m_prepared.forget(Incident::AssetNotCopied);
     wire();
     opened();
     // The check reads every product and looks for every picture; the window shows first.
@@ -301,7 +304,8 @@ void frmCatalogue::generate()
         const Busy busy;
         m_ui->cmdFtp->setEnabled(false);
         setRunning(true);
-        m_report = RunReport();
+        m_report = m_prepared; // what could not be prepared still is not there
+        m_folder.checkAssets(takeData());
         m_folder.yield = [] { QApplication::processEvents(QEventLoop::ExcludeUserInputEvents); };
         const ShopData shop = takeData();
         checkShopLanguage(shop, session(), m_report);

@@ -45,6 +45,7 @@ private:
 
     std::unique_ptr<Ui::frmCatalogue> m_ui;
     RunReport m_report;
+    RunReport m_prepared; ///< what was passed over when the window opened
     ShopFolder m_folder;
     std::vector<Language> m_languages;
     ShopData m_data;       ///< as loaded, and what no control shows
