@@ -1,12 +1,11 @@
 #include "shop/SettingsControls.h"
 
 #include "platform/OneLine.h"
+#include "platform/TextBox.h"
 
 #include <QCheckBox>
 #include <QLineEdit>
-#include <QPlainTextEdit>
 
-#include <algorithm>
 #include <array>
 
 using namespace Qt::StringLiterals;
@@ -68,27 +67,6 @@ const std::array<Binding<bool>, 7> &ticks()
     return bindings;
 }
 
-/// Breaking a long line takes time with the square of its length, and shaping it takes seconds; a text of scripts or
-/// pictures that someone pasted has such lines.
-void showText(QPlainTextEdit &control, const QString &text)
-{
-    constexpr qsizetype longestBroken = 10000;
-    qsizetype start = 0;
-    qsizetype longest = 0;
-    for (qsizetype end = 0; end >= 0 && longest <= longestBroken; start = end + 1) {
-        end = text.indexOf(u'\n', start);
-        longest = std::max(longest, (end < 0 ? text.size() : end) - start);
-    }
-    if (longest > longestBroken) {
-        control.setLineWrapMode(QPlainTextEdit::NoWrap);
-        QFont font = control.font();
-        font.setStyleStrategy(QFont::PreferNoShaping);
-        font.setKerning(false);
-        control.setFont(font);
-    }
-    control.setPlainText(text);
-}
-
 } // namespace
 
 void SettingsControls::show(const ShopSettings &settings, QWidget &screen)
@@ -96,7 +74,7 @@ void SettingsControls::show(const ShopSettings &settings, QWidget &screen)
     for (const auto &[control, member] : lines())
         screen.findChild<QLineEdit *>(control)->setText(settings.*member);
     for (const auto &[control, member] : texts())
-        showText(*screen.findChild<QPlainTextEdit *>(control), settings.*member);
+        screen.findChild<TextBox *>(control)->showText(settings.*member);
     for (const auto &[control, member] : ticks())
         screen.findChild<QCheckBox *>(control)->setChecked(settings.*member);
 }
@@ -106,7 +84,7 @@ void SettingsControls::take(ShopSettings &settings, const QWidget &screen)
     for (const auto &[control, member] : lines())
         settings.*member = oneLine(screen.findChild<QLineEdit *>(control)->text());
     for (const auto &[control, member] : texts())
-        settings.*member = screen.findChild<QPlainTextEdit *>(control)->toPlainText().replace(u"\n"_s, u"\r\n"_s);
+        settings.*member = screen.findChild<TextBox *>(control)->text();
     for (const auto &[control, member] : ticks())
         settings.*member = screen.findChild<QCheckBox *>(control)->isChecked();
 }
