@@ -17,6 +17,12 @@ struct ShopData {
 
     /// Position `n` of the company data, from 1; empty behind the last.
     QString info(int n) const { return gInfo.value(n - 1); }
-    /// Path of the picture for the banner: the chosen one, else that of the company; empty when there is neither.
-    QString logoSource() const { return settings.txtLogo.isEmpty() ? info(13).trimmed() : settings.txtLogo; }
+    /// Path of the picture for the banner: the chosen one, else that of the company, which always stands in the shop as
+    /// "logo.gif"; empty when there is neither.
+    QString logoSource() const
+    {
+        if (!settings.txtLogo.isEmpty())
+            return settings.txtLogo;
+        return settings.txtFile.compare(u"logo.gif", Qt::CaseInsensitive) == 0 ? info(13).trimmed() : QString();
+    }
 };

@@ -73,6 +73,18 @@ QStringList assetsOf(const ShopData &data)
     return names;
 }
 
+/// By the first bytes, as browsers tell.
+bool isPicture(const QString &path)
+{
+    QFile file(path);
+    if (!file.open(QIODevice::ReadOnly))
+        return false;
+    const QByteArray start = file.read(512);
+    return start.startsWith("GIF8") || start.startsWith("\xFF\xD8\xFF") || start.startsWith("\x89PNG")
+           || start.startsWith("BM") || (start.startsWith("RIFF") && start.mid(8, 4) == "WEBP")
+           || start.contains("<svg");
+}
+
 } // namespace
 
 ShopFolder::ShopFolder(QString path, RunReport &report) : m_path(std::move(path)), m_report(report) {}
@@ -124,6 +136,10 @@ void ShopFolder::copyBannerLogo(const QString &sourcePath, const QString &fileNa
 {
     if (!isAcceptable(fileName))
         m_report.add(Incident::LogoNotCopied, fileName, u"no file name"_s);
+    else if (m_assets.contains(imagesFolder + fileName))
+        m_report.add(Incident::LogoNotCopied, fileName, u"File exists"_s); // a picture of every shop
+    else if (QFileInfo(sourcePath).isFile() && !isPicture(sourcePath))
+        m_report.add(Incident::LogoNotCopied, fileName, u"not a picture"_s);
     else if (copy(sourcePath, imagesFolder + fileName, Incident::LogoNotCopied))
         m_pictures.insert(fileName, sourcePath);
 }
