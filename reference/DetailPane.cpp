@@ -4,6 +4,7 @@
 #include "platform/Messages.h"
 #include "platform/OneLine.h"
 #include "platform/Spread.h"
+#include "shell/Causes.h"
 #include "shell/Session.h"
 
 #include <QComboBox>
@@ -154,6 +155,10 @@ void DetailPane::change()
     if (!hasLabel() || m_nRowSel < 1 || m_nRowSel > m_grid->MaxRows())
         return;
     DetailRow row = takeBoxes();
+    if (row.idListe.isEmpty()) { // a list once given can be changed and not taken back
+        row.sListe = m_grid->text(List, m_nRowSel);
+        row.idListe = m_grid->text(IdList, m_nRowSel);
+    }
     row.id = m_grid->text(Id, m_nRowSel);
     setRow(m_nRowSel, row, m_grid->text(MarkColumn, m_nRowSel) == added ? added : changed);
     finishRow();
@@ -224,7 +229,7 @@ void DetailPane::validate()
 {
     const std::vector<Result> failures = AjouterFParam();
     for (const Result &failure : failures)
-        m_session.messages->box(failure.message(), u"AjouterFParam"_s);
+        m_session.messages->box(Causes::message(failure, m_session.localisation), u"AjouterFParam"_s);
     m_bModifie = true;
     if (failures.empty())
         m_screen.accept();

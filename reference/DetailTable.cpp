@@ -6,12 +6,21 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
+/// The code goes between plain quotes, and so one with an apostrophe can't be written. It is refused before it could
+/// end its text and begin something else.
+Result refusal(const DetailRow &row)
+{
+    return row.sCode.contains(u'\'') ? Result(1, DetailTable::apostropheInCode + row.sCode) : Result();
+}
+
 QString quoted(const QString &text)
 {
     return u'\'' + QString(text).replace(u'\'', u"''"_s) + u'\'';
 }
 
 } // namespace
+
+const QString DetailTable::apostropheInCode = u"apostrophe: "_s;
 
 QString DetailTable::table() const
 {
@@ -43,6 +52,8 @@ std::vector<DetailRow> DetailTable::read(Connection &gCnn, Result &result) const
 
 Result DetailTable::insert(Connection &gCnn, DetailRow &row) const
 {
+    if (Result refused = refusal(row); !refused)
+        return refused;
     QString columns = u"idRef_parent, sCode, sLibelle"_s;
     QString values = QString::number(m_parent.idParent) + u", '"_s + row.sCode + u"' , "_s + quoted(row.sLibelle);
     if (m_parent.bCategorie) {
@@ -51,7 +62,7 @@ Result DetailTable::insert(Connection &gCnn, DetailRow &row) const
     }
     if (hasList(row)) {
         columns += u", sListe, idListe"_s;
-        values += u", '"_s + row.sListe + u"', "_s + row.idListe;
+        values += u", "_s + quoted(row.sListe) + u", "_s + row.idListe;
     }
     if (Result done =
             gCnn.execute(u"INSERT INTO "_s + table() + u" ("_s + columns + u") Values ("_s + values + u"); "_s);
@@ -65,7 +76,10 @@ Result DetailTable::insert(Connection &gCnn, DetailRow &row) const
 
 Result DetailTable::update(Connection &gCnn, const DetailRow &row) const
 {
-    const QString list = hasList(row) ? u", sListe = '"_s + row.sListe + u"', idListe = "_s + row.idListe : QString();
+    if (Result refused = refusal(row); !refused)
+        return refused;
+    const QString list =
+        hasList(row) ? u", sListe = "_s + quoted(row.sListe) + u", idListe = "_s + row.idListe : QString();
     return gCnn.execute(u"UPDATE "_s + table() + u"  SET sCode = '"_s + row.sCode + u"', sLibelle = "_s
                         + quoted(row.sLibelle) + list + u" WHERE "_s + key() + u" = "_s + row.id + u"; "_s);
 }

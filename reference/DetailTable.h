@@ -22,8 +22,11 @@ public:
     /// With lists it is the third level of the groups, whose rows may carry one.
     DetailTable(ReferenceSelection parent, bool withLists) : m_parent(std::move(parent)), m_withLists(withLists) {}
 
+    /// Begins the text of the failure of a code that holds an apostrophe; the code follows.
+    static const QString apostropheInCode;
+
     std::vector<DetailRow> read(Connection &gCnn, Result &result) const;
-    /// Stores a new row and gives it its id. The code goes between plain quotes: an apostrophe in it fails.
+    /// Stores a new row and gives it its id. The code goes between plain quotes: one with an apostrophe is refused.
     Result insert(Connection &gCnn, DetailRow &row) const;
     Result update(Connection &gCnn, const DetailRow &row) const;
     /// The children of the row stay, without a parent.

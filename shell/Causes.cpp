@@ -15,9 +15,9 @@ struct Cause {
     QString french;
 };
 
-const std::array<Cause, 18> &causes()
+const std::array<Cause, 19> &causes()
 {
-    static const std::array<Cause, 18> table = {{
+    static const std::array<Cause, 19> table = {{
         {u"c1"_s, u"No such file or directory"_s, u"fichier introuvable"_s},
         {u"c2"_s, u"Permission denied"_s, u"accès refusé"_s},
         {u"c3"_s, u"No space left on device"_s, u"plus de place sur le disque"_s},
@@ -35,6 +35,7 @@ const std::array<Cause, 18> &causes()
         {u"c9"_s, u"not in the form of a settings file"_s, u"n’a pas la forme d’un fichier de réglages"_s},
         {u"c14"_s, u"not a picture"_s, u"ce n’est pas une image lisible"_s},
         {u"c15"_s, u"not in the form of a language file"_s, u"n’a pas la forme d’un fichier de langue"_s},
+        {u"c17"_s, u"apostrophe: "_s, u"un code ne peut pas contenir d’apostrophe : "_s},
         {u"c16"_s, u"no file name"_s, u"nom de fichier impossible"_s},
     }};
     return table;
