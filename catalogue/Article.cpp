@@ -69,7 +69,9 @@ QString Article::value(const QString &column) const
 {
     const QString trimmed = text(column).trimmed();
     const bool plain = column.startsWith(u"id"_s) || column.startsWith(u'b') || column == u"nQuantity"_s;
-    if (!plain)
+    bool isNumber = false;
+    (void)trimmed.toDouble(&isNumber);
+    if (!plain || (!trimmed.isEmpty() && !isNumber))
         return ProtegerTexte(trimmed);
     return trimmed.isEmpty() ? u"NULL"_s : trimmed;
 }

@@ -2,13 +2,13 @@
 
 #include "platform/NumberBox.h"
 #include "platform/OneLine.h"
+#include "platform/TextBox.h"
 
 #include <QCheckBox>
 #include <QComboBox>
 #include <QGroupBox>
 #include <QLabel>
 #include <QListWidget>
-#include <QPlainTextEdit>
 #include <QTabWidget>
 
 using namespace Qt::StringLiterals;
@@ -78,15 +78,6 @@ void showFromStart(QLineEdit &box, const QString &text)
     box.setCursorPosition(0);
 }
 
-/// Line breaks as the pages have them; no other control character may stand in a statement.
-QString manyLines(const QPlainTextEdit &box)
-{
-    QStringList lines = box.toPlainText().split(u'\n');
-    for (QString &line : lines)
-        line = oneLine(line);
-    return lines.join(u"\r\n"_s);
-}
-
 } // namespace
 
 void ArticleControls::show(const Article &article, QWidget &screen)
@@ -95,15 +86,14 @@ void ArticleControls::show(const Article &article, QWidget &screen)
         if (article.has(pair.column))
             showFromStart(find<QLineEdit>(screen, pair.control), article.text(pair.column));
     for (const Pair &pair : numbers()) {
-        auto &box = find<NumberBox>(screen, pair.control);
         if (article.has(pair.column))
-            box.setNumber(box.read(article.text(pair.column)));
+            find<NumberBox>(screen, pair.control).showStored(article.text(pair.column));
     }
     for (int i = 0; i < Article::languages().size(); ++i) {
         if (const QString column = nameColumn(screen, i); article.has(column))
             showFromStart(find<QLineEdit>(screen, u"txtNom_%1"_s.arg(i)), article.text(column));
         if (const QString column = descriptionColumn(screen, i); article.has(column))
-            find<QPlainTextEdit>(screen, u"txtObservation_%1"_s.arg(i)).setPlainText(article.text(column));
+            find<TextBox>(screen, u"txtObservation_%1"_s.arg(i)).showText(article.text(column));
     }
     for (const Pair &pair : ticks())
         if (article.has(pair.column))
@@ -118,8 +108,7 @@ void ArticleControls::take(Article &article, const QWidget &screen)
         article.setText(pair.column, find<NumberBox>(screen, pair.control).text());
     for (int i = 0; i < Article::languages().size(); ++i) {
         article.setText(nameColumn(screen, i), oneLine(find<QLineEdit>(screen, u"txtNom_%1"_s.arg(i)).text()));
-        article.setText(descriptionColumn(screen, i),
-                        manyLines(find<QPlainTextEdit>(screen, u"txtObservation_%1"_s.arg(i))));
+        article.setText(descriptionColumn(screen, i), find<TextBox>(screen, u"txtObservation_%1"_s.arg(i)).text());
     }
     for (const Pair &pair : ticks())
         article.setNumber(pair.column, find<QCheckBox>(screen, pair.control).isChecked() ? 1 : 0);
@@ -131,7 +120,7 @@ void ArticleControls::clear(QWidget &screen)
         box->clear();
     for (NumberBox *box : screen.findChildren<NumberBox *>())
         box->setNumber({});
-    for (QPlainTextEdit *box : screen.findChildren<QPlainTextEdit *>())
+    for (TextBox *box : screen.findChildren<TextBox *>())
         box->clear();
     for (QListWidget *list : screen.findChildren<QListWidget *>())
         list->clear();
@@ -139,13 +128,16 @@ void ArticleControls::clear(QWidget &screen)
 
 void ArticleControls::giveCurrency(const QString &gsMonnaie, QWidget &screen)
 {
-    const QString currency = gsMonnaie + u')';
+    // A text that the language file lacks still has the currency of the time before.
+    const auto withCurrency = [&gsMonnaie](const QString &text) -> QString {
+        return text.section(u'(', 0, 0) + u'(' + gsMonnaie + u')';
+    };
     for (const QString &name : {u"frAchat"_s, u"frVente"_s}) {
         auto &frame = find<QGroupBox>(screen, name);
-        frame.setTitle(frame.title() + currency);
+        frame.setTitle(withCurrency(frame.title()));
     }
     auto &label = find<QLabel>(screen, u"lbPrixRevient"_s);
-    label.setText(label.text() + currency);
+    label.setText(withCurrency(label.text()));
 }
 
 void ArticleControls::keepCapital(QLineEdit &box)

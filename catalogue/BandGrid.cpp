@@ -11,7 +11,7 @@ namespace {
 
 enum Column { PrixHT = 1, Tva, PrixTTC, QteMin, QteMax };
 
-constexpr int rows = 20;
+constexpr int freeRows = 20; // at least; a product with many bands gets room for all of them
 constexpr int lastOpeningRow = 4;
 const QString openEnd = u"999999"_s;
 
@@ -19,7 +19,7 @@ const QString openEnd = u"999999"_s;
 
 BandGrid::BandGrid(Spread &fpSpread2) : QObject(&fpSpread2), m_grid(fpSpread2)
 {
-    m_grid.resizeGrid(rows, QteMax);
+    m_grid.resizeGrid(freeRows, QteMax);
     SpreadModel &cells = m_grid.cells();
     for (const Column column : {PrixHT, PrixTTC})
         cells.setNumberColumn(column, 2);
@@ -35,12 +35,13 @@ BandGrid::BandGrid(Spread &fpSpread2) : QObject(&fpSpread2), m_grid(fpSpread2)
 
 void BandGrid::setRates(const QStringList &rates)
 {
+    m_rates = int(rates.size());
     m_grid.cells().setColumnChoices(Tva, rates);
 }
 
 void BandGrid::chooseRate(int position)
 {
-    for (int row = 1; row <= rows; ++row)
+    for (int row = 1; row <= m_grid.MaxRows(); ++row)
         m_grid.cells().setChoiceIndex(Tva, row, position);
 }
 
@@ -51,10 +52,15 @@ void BandGrid::show(const std::vector<ProductRows::Band> &bands)
         if (!text.isEmpty())
             m_grid.setText(column, row, text);
     };
-    for (int row = 1; row <= std::min(rows, int(bands.size())); ++row) {
+    const int rate = m_grid.cells().choiceIndex(Tva, 1);
+    const int before = m_grid.MaxRows();
+    m_grid.resizeGrid(std::max(before, int(bands.size()) + freeRows), QteMax);
+    for (int row = before + 1; row <= m_grid.MaxRows(); ++row)
+        m_grid.cells().setChoiceIndex(Tva, row, rate);
+    for (int row = 1; row <= int(bands.size()); ++row) {
         const ProductRows::Band &band = bands[size_t(row - 1)];
         give(PrixHT, row, band.prixHT);
-        if (band.idTva >= 0)
+        if (band.idTva >= 0 && band.idTva < m_rates)
             m_grid.cells().setChoiceIndex(Tva, row, band.idTva);
         give(PrixTTC, row, band.prixTTC);
         give(QteMin, row, band.iQte1);
@@ -73,7 +79,7 @@ std::vector<ProductRows::Band> BandGrid::bands() const
 
 void BandGrid::clear()
 {
-    for (int row = 1; row <= rows; ++row)
+    for (int row = 1; row <= m_grid.MaxRows(); ++row)
         for (const Column column : {PrixHT, PrixTTC, QteMin, QteMax})
             m_grid.setText(column, row, {});
 }
@@ -85,7 +91,7 @@ void BandGrid::openNextBand(int column, int row)
     if (!m_settled || column != QteMax || row > lastOpeningRow || !isNumber)
         return;
     const QScopedValueRollback writing(m_settled, false);
-    m_grid.setText(QteMin, row + 1, QString::number(end + 1));
+    m_grid.setText(QteMin, row + 1, QString::number(qint64(end) + 1));
     m_grid.setText(QteMax, row + 1, openEnd);
 }
 

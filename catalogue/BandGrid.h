@@ -26,5 +26,6 @@ private:
     void followPrice(int column, int row);
 
     Spread &m_grid;
+    int m_rates = 0;
     bool m_settled = true; ///< what the program writes opens no band
 };

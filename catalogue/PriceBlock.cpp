@@ -3,6 +3,8 @@
 #include "catalogue/Article.h"
 #include "platform/NumberBox.h"
 
+#include <QApplication>
+#include <QEvent>
 #include <QWidget>
 
 using namespace Qt::StringLiterals;
@@ -40,6 +42,27 @@ bool isWayToAnotherControl(Qt::FocusReason reason)
     return reason != Qt::ActiveWindowFocusReason && reason != Qt::PopupFocusReason && reason != Qt::MenuBarFocusReason;
 }
 
+/// Acts once, when the mouse button that is down has been let go.
+class AfterRelease : public QObject {
+public:
+    AfterRelease(std::function<void()> action, QObject *parent) : QObject(parent), m_action(std::move(action))
+    {
+        qApp->installEventFilter(this);
+    }
+    bool eventFilter(QObject *object, QEvent *event) override
+    {
+        if (event->type() == QEvent::MouseButtonRelease) {
+            qApp->removeEventFilter(this);
+            m_action();
+            deleteLater();
+        }
+        return QObject::eventFilter(object, event);
+    }
+
+private:
+    std::function<void()> m_action;
+};
+
 } // namespace
 
 PriceBlock::PriceBlock(QWidget &screen)
@@ -49,13 +72,28 @@ PriceBlock::PriceBlock(QWidget &screen)
         wire(place.field);
     }
     m_chain.changed = [this](Field field) { m_boxes[size_t(field)]->setNumber(m_chain.value(field)); };
+    screen.findChild<QWidget *>(u"cbTvaV"_s)->installEventFilter(this);
     auto *purchase = m_boxes[size_t(Field::PrixAchat)];
     auto *sale = m_boxes[size_t(Field::PrixVente)];
     connect(purchase, &NumberBox::focusLost, sale, [sale](Qt::FocusReason reason) {
-        if (isWayToAnotherControl(reason))
+        if (!isWayToAnotherControl(reason))
+            return;
+        const auto move = [sale] {
             QMetaObject::invokeMethod(
                 sale, [sale] { sale->setFocus(Qt::OtherFocusReason); }, Qt::QueuedConnection);
+        };
+        if (reason == Qt::MouseFocusReason)
+            new AfterRelease(move, sale); // the control that was clicked needs its whole click first
+        else
+            move();
     });
+}
+
+bool PriceBlock::eventFilter(QObject *object, QEvent *event)
+{
+    if (event->type() == QEvent::FocusIn)
+        m_chain.enterTvaV();
+    return QObject::eventFilter(object, event);
 }
 
 void PriceBlock::wire(Field field)
@@ -72,10 +110,14 @@ void PriceBlock::show(const Article &article)
     for (const Place &place : places()) {
         if (!article.has(place.column))
             continue;
-        const auto number = m_boxes[size_t(place.field)]->read(article.text(place.column));
-        if (place.field == Field::Qte && number.value_or(0) <= 0)
+        NumberBox &box = *m_boxes[size_t(place.field)];
+        const QString &stored = article.text(place.column);
+        const auto number = box.read(stored);
+        if (place.field == Field::Qte && stored.toDouble() <= 0)
             continue; // the box keeps its own
         m_chain.type(place.field, number);
+        if (!number)
+            box.showStored(stored);
     }
 }
 

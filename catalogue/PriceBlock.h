@@ -18,6 +18,7 @@ public:
     void take(Article &article) const;
     /// Empties every field, without any reaction.
     void clear();
+    bool eventFilter(QObject *object, QEvent *event) override;
 
 private:
     void wire(PriceChain::Field field);

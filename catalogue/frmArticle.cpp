@@ -39,7 +39,6 @@ frmArticle::frmArticle(Session &screenSession, QWidget *parent)
     m_prices->chain().type(Field::Qte, 1);
     m_ui->txtSeuil->setNumber(1);
     opened();
-    ArticleControls::giveCurrency(session().gsMonnaie, *this);
     wire();
     InitPico();
     fillCombos();
@@ -48,6 +47,11 @@ frmArticle::frmArticle(Session &screenSession, QWidget *parent)
 }
 
 frmArticle::~frmArticle() = default;
+
+void frmArticle::textsLoaded()
+{
+    ArticleControls::giveCurrency(session().gsMonnaie, *this);
+}
 
 bool frmArticle::isMode(Mode mode) const
 {
@@ -166,8 +170,8 @@ void frmArticle::AfficherArticle()
     giveKey(session().glIdFournisseur, u"idFournisseur"_s);
     giveKey(session().glIdTvaA, u"idTVAA"_s);
     giveKey(session().glIdTvaV, u"idTVAV"_s);
-    if (article.has(u"idUnite"_s))
-        m_ui->cbUnite->setCurrentIndex(article.text(u"idUnite"_s).toInt());
+    if (const int unit = article.text(u"idUnite"_s).toInt(); unit >= 0 && unit < m_ui->cbUnite->count())
+        m_ui->cbUnite->setCurrentIndex(unit);
     placeCombos();
     m_ui->SSTab1->setCurrentIndex(0);
 }

@@ -24,6 +24,8 @@ public:
     frmArticle(Session &session, QWidget *parent);
     ~frmArticle() override;
 
+    void textsLoaded() override;
+
 private:
     enum Mode { New = 1, Modify, Consult };
 

@@ -72,7 +72,17 @@ QString NumberBox::shown(double number) const
 void NumberBox::setNumber(std::optional<double> number)
 {
     m_number = number;
-    setText(number ? shown(*number) : QString());
+    m_shown = number ? shown(*number) : QString();
+    setText(m_shown);
+}
+
+void NumberBox::showStored(const QString &text)
+{
+    setNumber(read(text));
+    if (m_number)
+        return;
+    m_shown = text.trimmed();
+    setText(m_shown);
 }
 
 std::optional<double> NumberBox::read(const QString &text) const
@@ -85,7 +95,7 @@ std::optional<double> NumberBox::read(const QString &text) const
 /// Only what differs from what is shown is an entry: a value may have more decimals than the box shows.
 bool NumberBox::complete()
 {
-    if (text() == (m_number ? shown(*m_number) : QString()))
+    if (text() == m_shown)
         return false;
     const QString typed = text();
     setNumber(read(typed));

@@ -26,6 +26,9 @@ public:
     std::optional<double> number() const { return m_number; }
     /// Shows a number without telling anybody.
     void setNumber(std::optional<double> number);
+    /// Shows a text as the store holds it; one that is no number within the limits stays as it is until a person
+    /// types another, so that nothing of the store is lost by looking at it.
+    void showStored(const QString &text);
     /// The number that a stored text holds, with either decimal mark; null for any other text, and outside the limits.
     std::optional<double> read(const QString &text) const;
     double maximum() const;
@@ -48,6 +51,7 @@ private:
     void allow();
 
     std::optional<double> m_number;
+    QString m_shown; ///< what the box showed before a person typed
     bool m_amount = false;
     bool m_whole = false;
     int m_digits = 6;

@@ -29,6 +29,8 @@ QString translateText(const Session &session)
 void ScreenManners::loadTexts(QWidget &window, const Session &session)
 {
     ChargerLangue(window, session.localisation);
+    if (auto *screen = qobject_cast<Screen *>(&window))
+        screen->textsLoaded();
 }
 
 void ScreenManners::apply(QWidget &window, Session &session)
@@ -46,11 +48,8 @@ void ScreenManners::apply(QWidget &window, Session &session)
 
 void ScreenManners::translate(QWidget &window, Session &session)
 {
-    if (!session.screens || !session.screens->translate(&window))
-        return;
-    loadTexts(window, session);
-    if (auto *screen = qobject_cast<Screen *>(&window))
-        screen->textsLoaded();
+    if (session.screens && session.screens->translate(&window))
+        loadTexts(window, session);
 }
 
 void ScreenManners::remember(const QWidget &window, Session &session)
@@ -71,7 +70,6 @@ void Screen::opened()
 {
     setSizeGripEnabled(true);
     ScreenManners::apply(*this, m_session);
-    textsLoaded();
 }
 
 void Screen::done(int result)

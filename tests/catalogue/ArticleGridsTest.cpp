@@ -58,6 +58,17 @@ void ArticleGridsTest::bandsOpenAndFollow()
     };
     const QString expected = u"1-9:%1:100:121.00 10-999999:%1:50.00:60.5"_s.arg(position);
     QCOMPARE(bands(), expected);
+    // More rows than the grid has at first, and a rate that is no more.
+    desk.sql(u"UPDATE T_PRODUIT_PRIX SET idTva = 77 WHERE iQte1 = 1"_s);
+    for (int more = 0; more < 30; ++more)
+        desk.sql(u"INSERT INTO T_PRODUIT_PRIX VALUES (5, %1, %1, 0, '1', '1', NULL)"_s.arg(1000 + more));
+    {
+        auto many = desk.open(2, 5);
+        control<QPushButton>(*many, "cmdValider0").click();
+    }
+    QCOMPARE(desk.value(u"SELECT count(*) FROM T_PRODUIT_PRIX WHERE idProduit = 5"_s), u"32"_s);
+    desk.sql(u"DELETE FROM T_PRODUIT_PRIX WHERE iQte1 >= 1000"_s);
+    desk.sql(u"UPDATE T_PRODUIT_PRIX SET idTva = %1"_s.arg(position));
     // Without the tick the rows stay.
     desk.messages.boxes.clear();
     auto again = desk.open(2, 5);

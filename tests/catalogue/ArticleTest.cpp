@@ -5,6 +5,7 @@
 
 #include <QCheckBox>
 #include <QComboBox>
+#include <QGroupBox>
 #include <QLabel>
 #include <QListWidget>
 #include <QPlainTextEdit>
@@ -51,6 +52,8 @@ private Q_SLOTS:
     void newProductsFollowOneAnother();
     void whatIsMissingIsAsked();
     void pricesReactToTypingAndFocus();
+    void clickAfterThePurchasePriceCounts();
+    void openingAndSavingChangesNothing();
     void consultModeWritesTheRowsButNotTheProduct();
     void nullsLeaveTheBoxes();
     void failuresKeepWhatWasTyped();
@@ -193,6 +196,53 @@ void ArticleTest::pricesReactToTypingAndFocus()
     control<QLineEdit>(*window, "txtNom_0").setText(u"Nom"_s);
     control<QPushButton>(*window, "cmdValider0").click();
     QCOMPARE(desk.column(u"sFrais"_s, 5) + u' ' + desk.column(u"sPrixRevient"_s, 5), u"9.00 130.00"_s);
+}
+
+/// The focus goes on to the sale price, but not before the click that took it away has had its effect.
+void ArticleTest::clickAfterThePurchasePriceCounts()
+{
+    ArticleDesk desk;
+    auto window = desk.open(2, 5);
+    QVERIFY(QTest::qWaitForWindowActive(window.get()));
+    auto &tick = control<QCheckBox>(*window, "chControlStock");
+    const bool before = tick.isChecked();
+    control<NumberBox>(*window, "txtPrixAchat").setFocus();
+    tick.setFocus(Qt::MouseFocusReason); // as the press of a mouse button does first
+    QTest::mousePress(&tick, Qt::LeftButton, {}, QPoint(8, tick.height() / 2));
+    QTest::qWait(1); // whatever is queued has its turn while the button is down
+    QTest::mouseRelease(&tick, Qt::LeftButton, {}, QPoint(8, tick.height() / 2));
+    QCOMPARE(tick.isChecked(), !before);
+    QTRY_VERIFY(control<NumberBox>(*window, "txtPrixVente").hasFocus());
+    // The latch of a chain falls when the sale rate gains the focus.
+    enter(*window, "txtMarge", "2");
+    enter(*window, "txtFrais", "5");
+    const QString sale = shown(*window, "txtPrixVente");
+    control<QComboBox>(*window, "cbTvaV").setFocus();
+    enter(*window, "txtFrais", "50");
+    QVERIFY(shown(*window, "txtPrixVente") != sale);
+}
+
+/// What the boxes can't show the way it is stored must not be lost by looking at it.
+void ArticleTest::openingAndSavingChangesNothing()
+{
+    ArticleDesk desk;
+    desk.sql(u"UPDATE T_PRODUIT SET sGarantie = '24 mois', sPrixVenteTTC = '1500000', sSeuil = '-3', sMarge = 'abc', "
+             "nQuantity = 2000000, sObservationFR = '10\u00a0\u20ac\t!' WHERE idProduit = 5"_s);
+    const QString columns =
+        u"sGarantie || '|' || sPrixVenteTTC || '|' || sSeuil || '|' || sMarge || '|' || nQuantity || "
+        "'|' || sObservationFR || '|' || sNomES || '|' || idUnite"_s;
+    const QString before = desk.column(columns, 5);
+    auto window = desk.open(2, 5);
+    for (NumberBox *box : window->findChildren<NumberBox *>()) {
+        box->setFocus();
+        box->clearFocus();
+    }
+    control<QPushButton>(*window, "cmdValider0").click();
+    QCOMPARE(desk.messages.boxes, QStringList());
+    QCOMPARE(desk.column(columns, 5), before);
+    QCOMPARE(control<QGroupBox>(*window, "frAchat").title(), u"Achat (EUR)"_s);
+    ScreenManners::loadTexts(*window, desk.session);
+    QCOMPARE(control<QGroupBox>(*window, "frAchat").title(), u"Achat (EUR)"_s);
 }
 
 void ArticleTest::consultModeWritesTheRowsButNotTheProduct()
