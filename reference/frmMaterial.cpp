@@ -31,9 +31,6 @@ frmMaterial::frmMaterial(Session &screenSession, bool bCategorie, QWidget *paren
     for (QAction *action : {m_ui->Nouveau, m_ui->Ouvrir, m_ui->Fermer})
         m_ui->Toolbar1->addAction(action);
     opened();
-    const QString title = session().localisation.Traduire(u"GLISTE"_s, m_bCategorie ? u"t2"_s : u"t1"_s);
-    setWindowTitle(title);
-    m_ui->lbTitre->setText(title);
     connect(m_ui->Nouveau, &QAction::triggered, this, &frmMaterial::openEditor);
     connect(m_ui->Ouvrir, &QAction::triggered, m_ui->tvTools, &QTreeWidget::expandAll);
     connect(m_ui->Fermer, &QAction::triggered, this, &frmMaterial::CloseTV);
@@ -47,6 +44,21 @@ frmMaterial::frmMaterial(Session &screenSession, bool bCategorie, QWidget *paren
 }
 
 frmMaterial::~frmMaterial() = default;
+
+void frmMaterial::textsLoaded()
+{
+    setWindowTitle(session().localisation.Traduire(u"GLISTE"_s, m_bCategorie ? u"t2"_s : u"t1"_s));
+    m_ui->lbTitre->setText(windowTitle());
+    showTitle();
+}
+
+/// A node without a title of its own leaves the one before.
+void frmMaterial::showTitle()
+{
+    const QString &key = m_selection.titleKey;
+    if (!key.isEmpty())
+        m_ui->lbTitre->setText(m_selection.title(session().localisation.Traduire(u"MESSAGES"_s, key)));
+}
 
 void frmMaterial::showTree(bool bCategorie, const QString &method)
 {
@@ -105,8 +117,7 @@ void frmMaterial::nodeChosen(const QTreeWidgetItem *item)
     m_nNodeSel = item->data(0, positionRole).toInt();
     m_selection = chooseNode(m_nodes, m_nNodeSel, m_bCategorie);
     m_ui->Nouveau->setEnabled(m_selection.mayAdd);
-    if (!m_selection.titleKey.isEmpty())
-        m_ui->lbTitre->setText(m_selection.title(session().localisation.Traduire(u"MESSAGES"_s, m_selection.titleKey)));
+    showTitle();
 }
 
 /// Attributes have an editor of their own, since they alone carry the link to a list.

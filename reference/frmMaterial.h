@@ -17,12 +17,15 @@ public:
     frmMaterial(Session &session, bool bCategorie, QWidget *parent);
     ~frmMaterial() override;
 
+    void textsLoaded() override;
+
 private:
     /// Rebuild the tree from their table.
     void AfficherMaterial() { showTree(false, QStringLiteral("AfficherMaterial")); }
     void AfficherCategorie() { showTree(true, QStringLiteral("AfficherCategorie")); }
     void showTree(bool bCategorie, const QString &method);
     void rebuild() { m_bCategorie ? AfficherCategorie() : AfficherMaterial(); }
+    void showTitle();
     void ExpandRacine();
     void CloseTV();
     void select(int position);

@@ -1,6 +1,5 @@
 #pragma once
-#include "reference/ReferenceTree.h"
-#include "shell/Screen.h"
+#include "reference/DetailEditor.h"
 
 #include <memory>
 
@@ -9,7 +8,7 @@ class frmRMParamDetail;
 }
 
 /// The children of a node: of a list, a group or a sub-group's own level.
-class frmRMParamDetail : public Screen {
+class frmRMParamDetail : public DetailEditor {
     Q_OBJECT
 public:
     frmRMParamDetail(Session &session, const ReferenceSelection &parent, QWidget *parentWidget);

@@ -1,6 +1,5 @@
 #pragma once
-#include "reference/ReferenceTree.h"
-#include "shell/Screen.h"
+#include "reference/DetailEditor.h"
 
 #include <memory>
 
@@ -9,7 +8,7 @@ class frmRefDetail;
 }
 
 /// The attributes of a sub-group, each with the list that its values may come from.
-class frmRefDetail : public Screen {
+class frmRefDetail : public DetailEditor {
     Q_OBJECT
 public:
     frmRefDetail(Session &session, const ReferenceSelection &parent, QWidget *parentWidget);

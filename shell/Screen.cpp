@@ -28,6 +28,8 @@ QString translateText(const Session &session)
 
 void ScreenManners::loadTexts(QWidget &window, const Session &session)
 {
+    if (window.property("Tag").toString().isEmpty())
+        return; // a window with fixed texts
     ChargerLangue(window, session.localisation);
     if (auto *screen = qobject_cast<Screen *>(&window))
         screen->textsLoaded();
@@ -48,7 +50,7 @@ void ScreenManners::apply(QWidget &window, Session &session)
 
 void ScreenManners::translate(QWidget &window, Session &session)
 {
-    if (session.screens && session.screens->translate(&window))
+    if (!window.property("Tag").toString().isEmpty() && session.screens && session.screens->translate(&window))
         loadTexts(window, session);
 }
 
