@@ -206,13 +206,20 @@ void TransferQueue::StoreFolderItem(const QString &target, const QueueItem &item
     ResetCancel();
 }
 
+Result TransferQueue::takeRemoteNames(const QString &target, const QueueItem &item)
+{
+    takeNames(item.Path, target, item);
+    return TreeTransfer::isPlainName(item.Name)
+               ? Result()
+               : Result(FtpError::BadName, u"A name that can't be kept here: "_s + item.Name);
+}
+
 Result TransferQueue::RetrieveFileItem(const QString &target, const QueueItem &item)
 {
     FtpSession &ftp = m_desk.Ftp1;
     TransferVariables &transfer = m_desk.transfer;
-    takeNames(item.Path, target, item);
-    if (!TreeTransfer::isPlainName(item.Name))
-        return {FtpError::BadName, u"A name that can't be kept here: "_s + item.Name};
+    if (Result named = takeRemoteNames(target, item); !named)
+        return named;
     const QString local = transfer.sLocalDir + transfer.sLocalName;
     transfer.nRemoteSize = item.Size.toLongLong();
     transfer.nLocalSize = QFileInfo(local).size();
@@ -244,9 +251,8 @@ Result TransferQueue::RetrieveFolderItem(const QString &target, const QueueItem 
 {
     FtpSession &ftp = m_desk.Ftp1;
     TransferVariables &transfer = m_desk.transfer;
-    takeNames(item.Path, target, item);
-    if (!TreeTransfer::isPlainName(item.Name))
-        return {FtpError::BadName, u"A name that can't be kept here: "_s + item.Name};
+    if (Result named = takeRemoteNames(target, item); !named)
+        return named;
     const QString local = transfer.sLocalDir + transfer.sLocalName;
     if (!transfer.bCancel && QFileInfo(local).isDir() && mayAsk())
         m_desk.view.askConflict();

@@ -27,6 +27,8 @@ private:
     Result RetrieveFolderItem(const QString &target, const QueueItem &item);
     const PaneRow *RemoteItem(const QueueItem &item) const;
     void takeNames(const QString &remoteDir, const QString &localDir, const QueueItem &item);
+    /// For a way down: refuses a name that would lead out of the target.
+    Result takeRemoteNames(const QString &target, const QueueItem &item);
     bool mayAsk() const;
     void ResetCancel();
     void AddStatusRow(const QString &status, const QString &local, const QString &size, const QString &remote);

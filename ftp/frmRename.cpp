@@ -11,9 +11,7 @@ frmRename::frmRename(Session &screenSession, FtpDesk &desk, QWidget *parent)
     m_ui->txtRename->selectAll();
     connect(m_ui->cmdOK, &QPushButton::clicked, this, &frmRename::accept);
     connect(m_ui->cmdCancel, &QPushButton::clicked, this, &frmRename::reject);
-    const QString title = windowTitle();
     opened();
-    setWindowTitle(title);
 }
 
 frmRename::~frmRename() = default;
