@@ -2,6 +2,7 @@
 #include "ftp/frmCertificate.h"
 #include "ftp/frmFTP.h"
 #include "tests/desk/Desk.h"
+#include "tests/ftp/MemorySession.h"
 #include "tests/support/Files.h"
 #include "tests/support/Suite.h"
 
@@ -10,7 +11,6 @@
 #include <QComboBox>
 #include <QDir>
 #include <QLineEdit>
-#include <QMap>
 #include <QPlainTextEdit>
 #include <QPushButton>
 #include <QTest>
@@ -19,107 +19,6 @@
 using namespace Qt::StringLiterals;
 
 namespace {
-
-/// A server in memory: folders are names that end in "/".
-class MemorySession : public FtpSession {
-public:
-    QMap<QString, QByteArray> files; ///< by full path
-    QStringList log;
-    int state = Closed;
-    QString directory = u"/"_s;
-    Result refusal; ///< of the next login
-
-    int State() const override { return state; }
-    bool Busy() const override { return false; }
-    QString CurrentDirectory() const override { return directory; }
-    Result setCurrentDirectory(const QString &path) override
-    {
-        const QString wanted = whole(path) + u'/';
-        if (wanted != u"/"_s && wanted != u"//"_s && !files.contains(wanted))
-            return {550, u"550 no such folder"_s};
-        directory = whole(path);
-        return {};
-    }
-    Result RestartSupported(bool &supported) override
-    {
-        supported = true;
-        return {};
-    }
-    Result Login(const QString &host, const QString &user, const QString &, const QString &, int port) override
-    {
-        log << u"login %1@%2:%3"_s.arg(user, host).arg(port);
-        if (!refusal)
-            return refusal;
-        setState(Connected);
-        return {};
-    }
-    Result Logout() override
-    {
-        setState(Closed);
-        return {};
-    }
-    void Close() override { setState(Closed); }
-    void Abort() override {}
-    Result Cdup() override
-    {
-        const QString above = directory.section(u'/', 0, -2);
-        return setCurrentDirectory(above.isEmpty() ? u"/"_s : above);
-    }
-    Result List(QString &text, const QString &path) override
-    {
-        const QString below = QString(whole(path.isEmpty() ? directory : path) + u'/').replace(u"//"_s, u"/"_s);
-        for (auto it = files.cbegin(); it != files.cend(); ++it) {
-            QString name = it.key().startsWith(below) ? it.key().mid(below.size()) : QString();
-            const bool folder = name.endsWith(u'/');
-            name = folder ? name.chopped(1) : name;
-            if (!name.isEmpty() && !name.contains(u'/'))
-                text += (folder ? u"drwxr-xr-x"_s : u"-rw-r--r--"_s) + u" 1 u g "_s + QString::number(it->size())
-                        + u" Jan 01 12:00 "_s + name + u"\r\n"_s;
-        }
-        return {};
-    }
-    Result MakeDirectory(const QString &name) override
-    {
-        files.insert(whole(name) + u'/', {});
-        if (onProgress)
-            onProgress({FtpOperation::MakeDirectory, FtpProgress::Done, u"257 made\r\n"_s, 0});
-        return {};
-    }
-    Result RemoveDirectory(const QString &path) override { return take(whole(path) + u'/'); }
-    Result Delete(const QString &path) override { return take(whole(path)); }
-    Result Rename(const QString &oldPath, const QString &newPath) override
-    {
-        files.insert(whole(newPath), files.take(whole(oldPath)));
-        return {};
-    }
-    Result Retrieve(const QString &remoteFile, const QString &localFile, qint64 offset) override
-    {
-        log << u"retrieve "_s + remoteFile;
-        const QByteArray before = offset > 0 ? Files::read(localFile).left(offset) : QByteArray();
-        Files::write(localFile, before + files.value(whole(remoteFile)).mid(offset));
-        return {};
-    }
-    Result Store(const QString &remoteFile, const QString &localFile, qint64 offset) override
-    {
-        log << u"store %1 at %2"_s.arg(remoteFile).arg(StoreMode == Continue ? offset : 0);
-        const QByteArray before = StoreMode == Continue ? files.value(whole(remoteFile)).left(offset) : QByteArray();
-        files.insert(whole(remoteFile), before + Files::read(localFile).mid(StoreMode == Continue ? offset : 0));
-        return {};
-    }
-
-private:
-    QString whole(const QString &path) const
-    {
-        return QDir::cleanPath(path.startsWith(u'/') ? path : QString(directory + u'/' + path));
-    }
-    Result take(const QString &path) { return files.remove(path) > 0 ? Result() : Result(550, u"550 none"_s); }
-    void setState(int value)
-    {
-        state = value;
-        if (onState)
-            onState(value);
-    }
-};
 
 /// The FTP window over a small shop and a server in memory.
 class FtpDeskTest : public Desk {

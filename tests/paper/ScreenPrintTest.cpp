@@ -49,8 +49,8 @@ void ScreenPrintTest::pictureFillsThePage()
 
 void ScreenPrintTest::printsTheWindowInFront()
 {
-    if (!QPrinterInfo::defaultPrinter().isNull())
-        QSKIP("this machine has a printer");
+    qputenv("CUPS_SERVER", "127.0.0.1:1"); // no printer answers there, whatever the machine has
+    QVERIFY(QPrinterInfo::defaultPrinter().isNull());
     Desk desk;
     desk.openSample();
     desk.files.path = desk.path(u"screen.pdf"_s);
