@@ -1,16 +1,15 @@
 #pragma once
 #include "app/DeskScreens.h"
 #include "benches/BenchCatalogue.h"
+#include "benches/Fastest.h"
 #include "platform/Desktop.h"
 #include "platform/FileChooser.h"
 #include "platform/Messages.h"
 #include "shell/Skin.h"
 
 #include <QApplication>
-#include <QElapsedTimer>
 #include <QTemporaryDir>
 
-#include <algorithm>
 #include <cstdio>
 #include <cstdlib>
 
@@ -52,17 +51,3 @@ public:
     Session session;
     DeskScreens screens;
 };
-
-/// Milliseconds of the fastest of several runs.
-template <typename Run>
-double fastest(int rounds, Run run)
-{
-    double best = 1e9;
-    for (int i = 0; i < rounds; ++i) {
-        QElapsedTimer timer;
-        timer.start();
-        run();
-        best = std::min(best, double(timer.nsecsElapsed()) / 1e6);
-    }
-    return best;
-}

@@ -1,4 +1,5 @@
 // Labels and a product sheet as PDF, beside the least that any painter of the same texts and bars has to do.
+#include "benches/Fastest.h"
 #include "catalogue/Ean13.h"
 #include "catalogue/ProductSheet.h"
 #include "platform/Ean13Bars.h"
@@ -6,12 +7,10 @@
 
 #include <QApplication>
 #include <QBuffer>
-#include <QElapsedTimer>
 #include <QFont>
 #include <QPainter>
 #include <QPdfWriter>
 
-#include <algorithm>
 #include <cstdio>
 
 using namespace Qt::StringLiterals;
@@ -29,19 +28,6 @@ PrintLayout layoutOf(const QString &name)
     if (const Result read = PrintLayout::read(share + u'/' + name, layout); !read)
         qFatal("%s", qPrintable(read.message()));
     return layout;
-}
-
-template <typename Action>
-double best(Action action)
-{
-    double least = 1e9;
-    for (int i = 0; i < rounds; ++i) {
-        QElapsedTimer timer;
-        timer.start();
-        action();
-        least = std::min(least, double(timer.nsecsElapsed()) / 1e6);
-    }
-    return least;
 }
 
 void make(const PrintDocument &document)
@@ -134,14 +120,14 @@ int main(int argc, char *argv[])
     first.start();
     make(sheet);
     std::printf("paper, first sheet of a run: %.0f ms\n", double(first.nsecsElapsed()) / 1e6);
-    std::printf("paper, label sheet: %.0f ms (aim 150)\n", best([&] { make(sheet); }));
-    std::printf("paper, product sheet: %.0f ms (aim 150)\n", best([&] { make(product); }));
+    std::printf("paper, label sheet: %.0f ms (aim 150)\n", fastest(rounds, [&] { make(sheet); }));
+    std::printf("paper, product sheet: %.0f ms (aim 150)\n", fastest(rounds, [&] { make(product); }));
 
     PrintDocument many{layoutOf(u"etiquette1.tpl"_s)};
     for (int i = 1; i <= labels; ++i)
         many.cells << fieldsOf(i);
-    const double engine = best([&] { make(many); });
-    const double bare = best([&] { paintBare(many.layout, many.cells); });
+    const double engine = fastest(rounds, [&] { make(many); });
+    const double bare = fastest(rounds, [&] { paintBare(many.layout, many.cells); });
     std::printf("paper, %d labels: %.0f ms\n", labels, engine);
     std::printf("paper, %d labels, bare painter: %.0f ms\n", labels, bare);
     std::printf("paper, ratio of the two: %.2f (aim 3)\n", engine / bare);

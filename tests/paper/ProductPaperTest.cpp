@@ -1,9 +1,8 @@
 #include "catalogue/ProductSheet.h"
-#include "catalogue/frmArticle.h"
 #include "platform/NumberBox.h"
 #include "platform/Spread.h"
 #include "reference/frmEtiquette.h"
-#include "tests/desk/Desk.h"
+#include "tests/catalogue/ArticleDesk.h"
 #include "tests/paper/Printed.h"
 #include "tests/support/Files.h"
 #include "tests/support/Suite.h"
@@ -24,21 +23,9 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
-class PaperDesk : public Desk {
+class PaperDesk : public ArticleDesk {
 public:
-    PaperDesk()
-    {
-        openSample();
-        files.path = path(u"saved.pdf"_s);
-    }
-    std::unique_ptr<frmArticle> open(int mode, int idProduit = 0)
-    {
-        session.giModeProduit = mode;
-        session.glIdProduit = idProduit;
-        auto window = std::make_unique<frmArticle>(session, nullptr);
-        window->show();
-        return window;
-    }
+    PaperDesk() { files.path = path(u"saved.pdf"_s); }
     QString message126() const { return u"ZELVANTOR|"_s + session.localisation.Traduire(u"MESSAGES"_s, u"126"_s); }
 };
 
