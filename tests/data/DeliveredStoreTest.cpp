@@ -2,7 +2,6 @@
 #include "tests/support/Files.h"
 #include "tests/support/Suite.h"
 
-#include <QRegularExpression>
 #include <QTemporaryDir>
 #include <QTest>
 
@@ -14,8 +13,6 @@ private Q_SLOTS:
     void initTestCase();
     void columnsInTheirOrder_data();
     void columnsInTheirOrder();
-    void emptyTables();
-    void countries();
     void languages();
     void vatRates();
     void companyData();
@@ -89,36 +86,6 @@ void DeliveredStoreTest::columnsInTheirOrder()
     for (int i = 0; i < names.size(); ++i)
         if (names[i] != u"_"_s)
             QVERIFY2(reader.column(names[i]) == i, qPrintable(names[i]));
-}
-
-void DeliveredStoreTest::emptyTables()
-{
-    for (const QString &table : {u"T_PRODUIT"_s, u"T_PRODUIT_PRIX"_s, u"T_PRODUIT_IMAGE"_s, u"T_PRODUIT_DOC"_s,
-                                 u"REF_EXTENSION"_s, u"REF_USER"_s})
-        QCOMPARE(rows(u"SELECT count(*) FROM "_s + table), QList<QStringList>{{u"0"_s}});
-}
-
-void DeliveredStoreTest::countries()
-{
-    const auto countries = rows(u"SELECT CODE, PAYS_EN FROM REF_PAYS_ISO ORDER BY PAYS_EN"_s);
-    QCOMPARE(countries.size(), 249);
-    static const QRegularExpression code(u"^[A-Z]{2}$"_s);
-    QSet<QString> codes;
-    QSet<QString> names;
-    for (const QStringList &country : countries) {
-        QVERIFY2(code.match(country[0]).hasMatch() && !country[1].trimmed().isEmpty(), qPrintable(country.join(u'|')));
-        codes << country[0];
-        names << country[1];
-    }
-    QCOMPARE(codes.size(), 249);
-    QCOMPARE(names.size(), 249);
-    QVERIFY(codes.contains({u"FR"_s, u"BE"_s, u"NL"_s, u"DE"_s, u"IT"_s, u"ES"_s, u"GB"_s, u"CH"_s, u"LU"_s, u"SS"_s}));
-    const auto currencies = rows(u"SELECT * FROM REF_DEVISE"_s);
-    QSet<QString> currencyCodes;
-    for (const QStringList &currency : currencies)
-        currencyCodes << currency[0];
-    QVERIFY(currencyCodes.contains({u"EUR"_s, u"USD"_s, u"GBP"_s, u"CHF"_s, u"JPY"_s}));
-    QCOMPARE(currencyCodes.size(), currencies.size());
 }
 
 void DeliveredStoreTest::languages()

@@ -18,11 +18,8 @@ class SampleStoreTest : public QObject {
     Q_OBJECT
 private Q_SLOTS:
     void initTestCase();
-    void size();
     void references();
     void prices();
-    void quantityPrices();
-    void namesInSixLanguages();
     void textsThatPagesCanCarry();
     void filesExist();
     void attributesBelongToTheirFamily();
@@ -85,22 +82,6 @@ void SampleStoreTest::initTestCase()
         m_rates[rates.text(0)] = rates.text(2).toDouble();
 }
 
-void SampleStoreTest::size()
-{
-    QVERIFY(m_products.size() >= 80);
-    QCOMPARE(count(u"(SELECT DISTINCT idCategorie FROM T_PRODUIT)"_s), 6);
-    QCOMPARE(count(u"(SELECT DISTINCT idFamille FROM T_PRODUIT)"_s), 15);
-    QCOMPARE(count(u"(SELECT DISTINCT idCategorie, idFamille, sCategorie, sFamille FROM T_PRODUIT)"_s), 15);
-    // The copied labels are those of the tree.
-    QCOMPARE(count(u"T_PRODUIT, REF_CATEGORIE_P C, REF_CATEGORIE_P F WHERE C.idRef_Categorie = idCategorie AND "
-                   "C.idRef_parent = 1 AND F.idRef_Categorie = idFamille AND F.idRef_parent = idCategorie AND "
-                   "C.sLibelle = sCategorie AND F.sLibelle = sFamille"_s),
-             int(m_products.size()));
-    QVERIFY(count(u"(SELECT idProduit FROM T_PRODUIT_IMAGE WHERE iSmall = 0 GROUP BY idProduit HAVING count(*) > 1)"_s)
-            > m_products.size() / 2);
-    QCOMPARE(count(u"PARAM WHERE Ref_Produit = (SELECT max(idProduit) FROM T_PRODUIT)"_s), 1);
-}
-
 void SampleStoreTest::references()
 {
     static const QRegularExpression form(u"^(\\d{5})/(20\\d\\d)(0[1-9]|1[0-2])$"_s);
@@ -144,50 +125,6 @@ void SampleStoreTest::prices()
         static const QRegularExpression amount(u"^\\d+\\.\\d\\d$"_s);
         QVERIFY2(amount.match(product[u"sPrixVenteTTC"_s]).hasMatch(), id.constData());
     }
-}
-
-void SampleStoreTest::quantityPrices()
-{
-    const auto bands = rows(u"SELECT idProduit,iQte1,iQte2,idTva,sPrixHT,sPrixTTC FROM T_PRODUIT_PRIX"_s);
-    QVERIFY(!bands.isEmpty());
-    QList<double> listed;
-    Reader rates = m_connection.read(u"SELECT * FROM REF_TVA ORDER BY 2 "_s);
-    while (rates.next())
-        listed << rates.text(2).toDouble();
-    QSet<QString> owners;
-    for (qsizetype i = 0; i < bands.size(); ++i) {
-        const Row &band = bands[i];
-        const bool isFirst = owners.isEmpty() || !owners.contains(band[u"idProduit"_s]);
-        owners << band[u"idProduit"_s];
-        QCOMPARE(band[u"iQte1"_s].toInt(), isFirst ? 1 : bands[i - 1][u"iQte2"_s].toInt() + 1);
-        QVERIFY(isRounded(band[u"sPrixTTC"_s].toDouble() / (1 + listed.value(band[u"idTva"_s].toInt(), -9) / 100),
-                          band[u"sPrixHT"_s]));
-    }
-    QCOMPARE(count(u"T_PRODUIT WHERE bPrixQte = True"_s), int(owners.size()));
-    QCOMPARE(count(u"(SELECT DISTINCT P.idProduit FROM T_PRODUIT P, T_PRODUIT_PRIX X WHERE P.idProduit = X.idProduit "
-                   "AND P.bPrixQte = 1)"_s),
-             int(owners.size()));
-}
-
-void SampleStoreTest::namesInSixLanguages()
-{
-    for (const Row &product : std::as_const(m_products)) {
-        QSet<QString> names;
-        QStringList descriptions;
-        for (const QString &code : languages) {
-            names << product[u"sNom"_s + code].trimmed().toLower();
-            descriptions << product[u"sObservation"_s + code].trimmed();
-        }
-        // Two languages may share a name, but no text was left in the language of another. A description may
-        // wait for its translation.
-        QVERIFY2(names.size() >= 5 && !names.contains(QString()), qPrintable(product[u"sNomFR"_s]));
-        QVERIFY2(!descriptions.first().isEmpty(), qPrintable(product[u"sNomFR"_s]));
-        descriptions.removeAll(QString());
-        QVERIFY2(descriptions.size() >= 5 && descriptions.removeDuplicates() == 0, qPrintable(product[u"sNomFR"_s]));
-    }
-    // A null would show the text of the product before.
-    for (const QString &code : languages)
-        QCOMPARE(count(u"T_PRODUIT WHERE sNom%1 IS NULL OR sObservation%1 IS NULL"_s.arg(code)), 0);
 }
 
 void SampleStoreTest::textsThatPagesCanCarry()

@@ -11,7 +11,6 @@ class LocalisationTest : public QObject {
     Q_OBJECT
 private Q_SLOTS:
     void languageOfTheWindowsAndOfTheShop();
-    void readAnewEachTime();
     void countsKeys();
 
 private:
@@ -40,15 +39,6 @@ void LocalisationTest::languageOfTheWindowsAndOfTheShop()
     QCOMPARE(localisation.Traduire(u"CATALOG"_s, u"22"_s), u"Price"_s);
     QCOMPARE(localisation.Traduire(u"CATALOG"_s, u"23"_s), u""_s);
     QCOMPARE(localisation.Traduire(u"MAIN"_s, u"22"_s), u""_s);
-}
-
-void LocalisationTest::readAnewEachTime()
-{
-    file(u"FR"_s, "[A]\nk=1\n");
-    const Localisation localisation(m_folder.path());
-    QCOMPARE(localisation.Traduire(u"A"_s, u"k"_s), u"1"_s);
-    file(u"FR"_s, "[A]\nk=2\n");
-    QCOMPARE(localisation.Traduire(u"A"_s, u"k"_s), u"2"_s);
 }
 
 void LocalisationTest::countsKeys()
