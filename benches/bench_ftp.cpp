@@ -19,7 +19,7 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
-constexpr int files = 200;
+constexpr int files = 2000;
 constexpr int fileSize = 8192;
 constexpr int bigSize = 200 * 1024 * 1024;
 constexpr int entries = 10000;
@@ -141,7 +141,7 @@ int main(int argc, char *argv[])
     FtpClient client;
     check(client.Login(u"127.0.0.1"_s, server.user(), RealServer::password, {}, server.port()));
     BareLoop bare(server);
-    uploads("200 files of 8 kB", client, bare, folder.filePath(u"small"_s), files);
+    uploads("2,000 files of 8 kB", client, bare, folder.filePath(u"small"_s), files);
     uploads("file of 200 MB", client, bare, folder.filePath(u"big"_s), 1);
     longFolder(client, server);
     return 0;
