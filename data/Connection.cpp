@@ -37,7 +37,11 @@ Result Connection::open(const QString &connectionText)
 
 Result Connection::execute(const QString &statement)
 {
-    return m_store ? m_store->execute(statement) : notOpen();
+    if (!m_store)
+        return notOpen();
+    if (m_beforeChange)
+        m_beforeChange();
+    return m_store->execute(statement);
 }
 
 std::vector<Result> Connection::executeAll(const QStringList &statements)
@@ -52,6 +56,21 @@ std::vector<Result> Connection::executeAll(const QStringList &statements)
 Reader Connection::read(const QString &statement, const std::vector<qint64> &values)
 {
     return m_store ? m_store->read(statement, values) : Reader::failed(notOpen());
+}
+
+Result Connection::check()
+{
+    return m_store ? m_store->check() : notOpen();
+}
+
+Result Connection::copyTo(const QString &path)
+{
+    return m_store ? m_store->copyTo(path) : notOpen();
+}
+
+Result Connection::takeFrom(const QString &path)
+{
+    return m_store ? m_store->takeFrom(path) : notOpen();
 }
 
 StoreAction::StoreAction(Connection &connection)

@@ -2,6 +2,7 @@
 #include "platform/Store.h"
 
 #include <QStringList>
+#include <functional>
 #include <memory>
 
 /// An open, or never opened, connection to the store. Copies share the same store.
@@ -23,9 +24,17 @@ public:
     std::vector<Result> executeAll(const QStringList &statements);
     Reader read(const QString &statement, const std::vector<qint64> &values = {});
 
+    /// Called in front of every statement that `execute` runs.
+    void setBeforeChange(std::function<void()> beforeChange) { m_beforeChange = std::move(beforeChange); }
+    /// See Store.
+    Result check();
+    Result copyTo(const QString &path);
+    Result takeFrom(const QString &path);
+
 private:
     std::shared_ptr<Store> m_store;
     QString m_path;
+    std::function<void()> m_beforeChange;
 };
 
 /// Several statements as one: they reach the store together when the object ends, and a statement that fails among

@@ -21,9 +21,9 @@ void clsConnection::Init_connect()
     m_connection = Connection();
     m_bLogin = true;
     m_bErreur = false;
-    const Result opened = m_connection.open(connectionText(m_gsDbPath));
-    if (!opened)
-        showErrors(opened);
+    m_failure = m_connection.open(connectionText(m_gsDbPath));
+    if (!m_failure)
+        showErrors(m_failure);
     else if (!m_connection.isOpen())
         m_messages.box(u"Connexion échouée"_s, title);
 }

@@ -10,6 +10,8 @@ public:
 
     bool bErreur() const { return m_bErreur; }
     bool bLogin() const { return m_bLogin; }
+    /// Why the connection was not made.
+    const Result &failure() const { return m_failure; }
 
     // Stored for the callers; none of them becomes part of the connection text.
     QString sLogin;
@@ -29,6 +31,7 @@ private:
     Messages &m_messages;
     QString m_gsDbPath;
     Connection m_connection;
+    Result m_failure;
     bool m_bErreur = false;
     bool m_bLogin = false;
 };

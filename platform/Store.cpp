@@ -3,12 +3,15 @@
 #include "platform/Dialect.h"
 #include "platform/StoreText.h"
 
+#include <SQLiteCpp/Backup.h>
 #include <SQLiteCpp/SQLiteCpp.h>
 #include <sqlite3.h>
 
 #include <QFile>
 #include <QFileInfo>
 #include <QUrl>
+
+using namespace Qt::StringLiterals;
 
 namespace {
 
@@ -26,12 +29,19 @@ Result checkFile(const QString &path)
 {
     const QFileInfo info(path);
     if (!info.exists())
-        return {SQLITE_CANTOPEN, QStringLiteral("no such file")};
+        return {SQLITE_CANTOPEN, u"no such file"_s};
     if (!info.isFile())
-        return {SQLITE_CANTOPEN, QStringLiteral("not a file")};
+        return {SQLITE_CANTOPEN, u"not a file"_s};
     if (info.size() == 0)
-        return {SQLITE_NOTADB, QStringLiteral("file is not a database")};
+        return {SQLITE_NOTADB, u"file is not a database"_s};
     return {};
+}
+
+/// All pages in one step, so that the copy is of one moment.
+Result backUp(SQLite::Database &to, SQLite::Database &from)
+{
+    const int code = SQLite::Backup(to, from).executeStep(-1);
+    return code == SQLITE_DONE ? Result() : Result(code, QString::fromUtf8(sqlite3_errstr(code)));
 }
 
 } // namespace
@@ -59,33 +69,41 @@ std::unique_ptr<Store> Store::open(const QString &path, Result &result, int pati
     } catch (const SQLite::Exception &e) {
         result = failure(e);
     }
-    if (result.number() == SQLITE_READONLY || result.number() == SQLITE_CANTOPEN)
-        return openUnwritable(path, result);
+    if (result.number() == SQLITE_READONLY || result.number() == SQLITE_CANTOPEN) {
+        // Where the library can't put its files beside it; the first failure stays the one to tell.
+        Result second;
+        if (auto store = openStill(path, second)) {
+            result = {};
+            return store;
+        }
+    }
     return nullptr;
 }
 
-/// A store that may only be read, in a folder where the library can't put its files beside it.
-std::unique_ptr<Store> Store::openUnwritable(const QString &path, Result &result)
+std::unique_ptr<Store> Store::openStill(const QString &path, Result &result)
 {
+    result = checkFile(path);
+    if (!result)
+        return nullptr;
     const QByteArray address = "file:" + QUrl::toPercentEncoding(path, "/") + "?immutable=1";
     try {
         auto database =
             std::make_unique<SQLite::Database>(address.toStdString(), SQLite::OPEN_READONLY | SQLITE_OPEN_URI);
         if (!StoreText::install(database->getHandle()))
-            return nullptr;
+            throw SQLite::Exception("collation refused", SQLITE_ERROR);
         SQLite::Statement(*database, "SELECT count(*) FROM sqlite_master").executeStep();
-        result = {};
         return std::unique_ptr<Store>(new Store(std::move(database)));
-    } catch (const SQLite::Exception &) {
-        return nullptr; // the first failure stays the one to tell
+    } catch (const SQLite::Exception &e) {
+        result = failure(e);
     }
+    return nullptr;
 }
 
 std::unique_ptr<Store> Store::create(const QString &path, Result &result)
 {
     result = {};
     if (QFileInfo::exists(path)) {
-        result = {SQLITE_CANTOPEN, QStringLiteral("file exists already")};
+        result = {SQLITE_CANTOPEN, u"file exists already"_s};
         return nullptr;
     }
     try {
@@ -138,6 +156,45 @@ Reader Store::read(const QString &statement, const std::vector<qint64> &values)
         reader.m_result = failure(e);
     }
     return reader;
+}
+
+Result Store::check()
+{
+    Reader found = read(u"PRAGMA quick_check(1)"_s);
+    if (found.next() && found.text(0) == u"ok"_s)
+        return {};
+    return found.result() ? Result(SQLITE_CORRUPT, found.text(0)) : found.result();
+}
+
+Result Store::copyTo(const QString &path)
+{
+    if (QFileInfo::exists(path))
+        return {SQLITE_CANTOPEN, u"File exists"_s};
+    Result result;
+    try {
+        SQLite::Database copy(QFile::encodeName(path).toStdString(), SQLite::OPEN_READWRITE | SQLite::OPEN_CREATE);
+        copy.exec("PRAGMA journal_mode=MEMORY"); // a copy that is cut off leaves no second file
+        result = backUp(copy, *m_database);
+    } catch (const SQLite::Exception &e) {
+        result = failure(e);
+    }
+    if (!result)
+        QFile::remove(path);
+    return result;
+}
+
+Result Store::takeFrom(const QString &path)
+{
+    Result result;
+    const auto source = openStill(path, result);
+    if (!source)
+        return result;
+    m_kept.clear();
+    try {
+        return backUp(*m_database, *source->m_database);
+    } catch (const SQLite::Exception &e) {
+        return failure(e);
+    }
 }
 
 std::shared_ptr<SQLite::Statement> Store::take(const QString &statement)

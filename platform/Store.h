@@ -57,6 +57,8 @@ public:
     /// Null on failure, with the reason in `result`: 14 no such file, 26 not a store, 11 damaged, 5 locked by another
     /// program (after `patience` milliseconds), else the number of the library.
     static std::unique_ptr<Store> open(const QString &path, Result &result, int patience = 5000);
+    /// Opens a store that nobody writes for reading, and puts nothing beside it.
+    static std::unique_ptr<Store> openStill(const QString &path, Result &result);
     /// Makes a new, empty store at a path where nothing stands yet. For the store builder.
     static std::unique_ptr<Store> create(const QString &path, Result &result);
 
@@ -68,10 +70,16 @@ public:
     /// Reads the rows of a statement; `values` fill its "?" in order. Statements stay prepared.
     Reader read(const QString &statement, const std::vector<qint64> &values = {});
 
+    /// Looks through the pages of the store: 11 with what is wrong when it is damaged.
+    Result check();
+    /// Writes the store as it stands to a path where nothing stands yet. On failure nothing stays there.
+    Result copyTo(const QString &path);
+    /// Takes the content of another store in the place of its own, all of it or none.
+    Result takeFrom(const QString &path);
+
 private:
     friend class Reader;
     explicit Store(std::unique_ptr<SQLite::Database> database);
-    static std::unique_ptr<Store> openUnwritable(const QString &path, Result &result);
     std::shared_ptr<SQLite::Statement> take(const QString &statement);
     void keep(const QString &statement, std::shared_ptr<SQLite::Statement> prepared);
 

@@ -50,8 +50,7 @@ QString Causes::text(const QString &cause, const Localisation &localisation)
     for (const Cause &known : causes()) {
         if (!cause.startsWith(known.platformText))
             continue;
-        const QString text = windows.Traduire(u"RUN"_s, known.key);
-        return (text.isEmpty() ? known.french : text) + cause.mid(known.platformText.size());
+        return windows.textOr(u"RUN"_s, known.key, known.french) + cause.mid(known.platformText.size());
     }
     return cause;
 }

@@ -24,6 +24,12 @@ QString Localisation::Traduire(const QString &section, const QString &key) const
     return opened(fileName(language())).value(section, key);
 }
 
+QString Localisation::textOr(const QString &section, const QString &key, const QString &absent) const
+{
+    const QString text = Traduire(section, key);
+    return text.trimmed().isEmpty() ? absent : text;
+}
+
 int Localisation::CompterCles(const QString &section) const
 {
     return int(opened(fileName(language())).keys(section).size());

@@ -16,6 +16,8 @@ public:
     /// The text of a key, or an empty text. The file is read anew each time, so that a text changed by hand or
     /// by the translation screen counts at once.
     QString Traduire(const QString &section, const QString &key) const;
+    /// The same, with a text for a key that has none.
+    QString textOr(const QString &section, const QString &key, const QString &absent) const;
     /// The number of keys of a section.
     int CompterCles(const QString &section) const;
 

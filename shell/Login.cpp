@@ -1,5 +1,6 @@
 #include "shell/Login.h"
 
+#include "data/StoreCopies.h"
 #include "data/clsConnection.h"
 #include "platform/Cipher.h"
 
@@ -66,7 +67,7 @@ LoginStep logIn(Session &session, const QString &userName, const QString &passwo
     connection.sPassWord = session.gsPassword;
     connection.Init_connect();
     if (!connection.bLogin())
-        return LoginStep::Refused;
+        return isDamage(connection.failure()) ? LoginStep::Damaged : LoginStep::Refused;
     session.gCnn = connection.connectdb();
     session.gsDroits.clear();
     if (!isAdmin)

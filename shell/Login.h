@@ -25,6 +25,7 @@ enum class LoginStep {
     AdminRefused,
     Refused,
     NoConnection,
+    Damaged, ///< the store can't be opened since it is damaged or none
 };
 
 /// Logs a user in: sets `gsLogin`, `gsPassword`, `gsDroits`, opens `gCnn` and stores the name. Failures of the

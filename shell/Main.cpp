@@ -5,6 +5,7 @@
 #include "platform/Messages.h"
 #include "shell/Causes.h"
 #include "shell/Login.h"
+#include "shell/OneProgram.h"
 #include "shell/frmDbPath.h"
 #include "shell/frmLogin.h"
 #include "shell/frmMain.h"
@@ -47,9 +48,7 @@ void tellUnreadableSettings(const Session &session)
     const auto tell = [&](const QString &key, const QString &application) {
         if (settings.check(application))
             return;
-        QString text = session.localisation.Traduire(u"RUN"_s, key);
-        if (text.isEmpty())
-            text = u"Fichier de réglages illisible : %1"_s;
+        QString text = session.localisation.textOr(u"RUN"_s, key, u"Fichier de réglages illisible : %1"_s);
         text.replace(u"%1"_s, settings.fileName(application)).replace(u"%2"_s, settings.unreadableName(application));
         session.messages->box(text, u"ZELVANTOR"_s);
     };
@@ -86,6 +85,16 @@ bool findStore(Session &session)
     return session.gbValider;
 }
 
+/// The program that holds the store comes to the front in the place of this one.
+void callOther(const OneProgram &other, const Session &session)
+{
+    if (other.callHolder())
+        return;
+    session.messages->box(
+        session.localisation.textOr(u"RUN"_s, u"running"_s, u"ZELVANTOR est déjà ouvert sur cette base de données."_s),
+        u"ZELVANTOR"_s);
+}
+
 /// The orderly end: the main window is gone when the timer fires, and nothing is left to wait for.
 void endWithTimer()
 {
@@ -102,6 +111,12 @@ std::unique_ptr<frmMain> Main(Session &session)
         session.messages->box(Causes::message(registered, session.localisation), u"ZELVANTOR"_s);
     if (!findStore(session))
         return nullptr;
+    auto program = std::make_unique<OneProgram>(session.gsDbPath);
+    if (!program->claim()) {
+        callOther(*program, session);
+        return nullptr;
+    }
+    QObject::connect(program.get(), &OneProgram::called, qApp, bringToFront);
     {
         frmLogin login(session, nullptr);
         login.exec();
@@ -109,15 +124,17 @@ std::unique_ptr<frmMain> Main(Session &session)
             return nullptr;
     }
     if (session.gCnn.isReadOnly()) {
-        const QString text = session.localisation.Traduire(u"RUN"_s, u"readonly"_s);
-        session.messages->box(text.isEmpty() ? u"Le catalogue est en lecture seule : rien ne sera enregistré."_s : text,
-                              u"ZELVANTOR"_s);
+        session.messages->box(
+            session.localisation.textOr(u"RUN"_s, u"readonly"_s,
+                                        u"Le catalogue est en lecture seule : rien ne sera enregistré."_s),
+            u"ZELVANTOR"_s);
     }
     frmSplash splash;
     splash.show();
     splash.repaint();
     QApplication::processEvents(QEventLoop::ExcludeUserInputEvents);
     auto window = std::make_unique<frmMain>(session);
+    program.release()->setParent(window.get());
     QObject::connect(window.get(), &frmMain::ended, qApp, endWithTimer);
     splash.close();
     window->show();

@@ -20,8 +20,7 @@ QString translateText(const Session &session)
     // Also while the shop screen reads the words of the shop.
     Localisation windows = session.localisation;
     windows.gbLangueCatalogue = false;
-    const QString text = windows.Traduire(u"MAIN"_s, u"miTraduire"_s);
-    return text.isEmpty() ? u"Traduire cette fenêtre..."_s : text;
+    return windows.textOr(u"MAIN"_s, u"miTraduire"_s, u"Traduire cette fenêtre..."_s);
 }
 
 } // namespace

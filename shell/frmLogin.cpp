@@ -3,6 +3,7 @@
 #include "platform/Messages.h"
 #include "shell/BuiltInTexts.h"
 #include "shell/Login.h"
+#include "shell/StoreUpkeep.h"
 #include "ui_frmLogin.h"
 
 #include <QApplication>
@@ -54,15 +55,30 @@ void frmLogin::takeStoredName()
     m_ui->txtPassword->setFocus();
 }
 
-void frmLogin::tryLogin()
+LoginStep frmLogin::attempt()
 {
     QApplication::setOverrideCursor(Qt::WaitCursor);
     const LoginStep step = logIn(session(), m_ui->txtUserName->text(), m_ui->txtPassword->text(), m_msAdminPW);
     QApplication::restoreOverrideCursor();
+    return step;
+}
+
+void frmLogin::tryLogin()
+{
+    LoginStep step = attempt();
+    if (step == LoginStep::Damaged)
+        session().gCnn = Connection(); // that of an attempt before
+    if (step == LoginStep::Done || step == LoginStep::Damaged)
+        if (const Result damage = StoreUpkeep::damageOf(session()); !damage)
+            if (StoreUpkeep::offerSoundCopy(session(), damage))
+                step = attempt();
     LoginSucceeded = step == LoginStep::Done;
     switch (step) {
     case LoginStep::Done:
-        accept();
+        StoreUpkeep::keepDailyCopies(session());
+        LoginSucceeded = StoreUpkeep::carryForward(session());
+        if (LoginSucceeded)
+            accept();
         break;
     case LoginStep::NameMissing:
         session().messages->box(u"Please fill the login "_s, u"QUILMARDOT/Login"_s);
@@ -77,6 +93,7 @@ void frmLogin::tryLogin()
         m_ui->txtPassword->setFocus();
         break;
     case LoginStep::Refused:
+    case LoginStep::Damaged:
         refuse(u"Login or Password is invalid !"_s);
         break;
     case LoginStep::NoConnection:

@@ -1,4 +1,5 @@
 #pragma once
+#include "shell/Login.h"
 #include "shell/Screen.h"
 
 #include <memory>
@@ -18,6 +19,7 @@ public:
 
 private:
     void takeStoredName();
+    LoginStep attempt();
     void tryLogin();
     void refuse(const QString &text);
 

@@ -8,6 +8,7 @@
 #include "shell/Screens.h"
 #include "shell/Skin.h"
 #include "shell/frmAbout.h"
+#include "shell/frmCopies.h"
 #include "shell/frmPW.h"
 #include "shell/frmPays.h"
 #include "ui_frmMain.h"
@@ -156,6 +157,7 @@ void frmMain::wireMenus()
         dialog.setWindowTitle(u"Mise en page"_s);
         dialog.exec();
     });
+    connect(m_ui->mnuCopies, &QAction::triggered, this, &frmMain::showCopies);
     connect(m_ui->mnQuiter, &QAction::triggered, this, [] { std::_Exit(0); });
     connect(m_ui->mnuHoriz, &QAction::triggered, this, [this] { arrangeChildren(Qt::Horizontal); });
     connect(m_ui->mnuVert, &QAction::triggered, this, [this] { arrangeChildren(Qt::Vertical); });
@@ -195,6 +197,19 @@ void frmMain::showRegional()
     ScreenManners::loadTexts(*this, m_session);
     ChangerLangue();
     setWindowTitle(title);
+}
+
+/// What was read from the store before it got another content is read again.
+void frmMain::showCopies()
+{
+    frmCopies copies(m_session, this);
+    copies.exec();
+    if (!copies.restored)
+        return;
+    m_ui->mdi->closeAllSubWindows();
+    AfficherEmail();
+    AfficherInfo();
+    AfficherInfoDoc();
 }
 
 void frmMain::arrangeChildren(Qt::Orientation orientation)

@@ -41,6 +41,7 @@ private:
     void readPosition();
     void dispatch(const QString &key);
     void showRegional();
+    void showCopies();
     void arrangeChildren(Qt::Orientation orientation);
     void openHelp();
 

@@ -13,6 +13,7 @@
 #include "shell/MessageBoxes.h"
 #include "shell/Skin.h"
 #include "shell/frmAbout.h"
+#include "shell/frmCopies.h"
 #include "shell/frmDbPath.h"
 #include "shell/frmLogin.h"
 #include "shell/frmMain.h"
@@ -113,6 +114,13 @@ void saveWindows(Session &session, const QString &folder)
     {
         frmAbout window(session, nullptr);
         save(window, folder, u"frmAbout"_s);
+    }
+    {
+        const StoreCopies copies(session.gsDbPath);
+        for (int day = 1; day <= 3; ++day)
+            (void)copies.keepDay(session.gCnn, QDate(2026, 3, day));
+        frmCopies window(session, nullptr);
+        save(window, folder, u"frmCopies"_s);
     }
     {
         frmInfo window(session, nullptr);

@@ -181,3 +181,6 @@ CREATE TABLE REF_DEVISE (
     CODE TEXT COLLATE ZELVANTOR,
     DEVISE TEXT COLLATE ZELVANTOR
 );
+
+-- The number of the last step of data/SchemaSteps.cpp that this schema holds already.
+PRAGMA user_version = 1;
