@@ -19,6 +19,7 @@ int main(int argc, char *argv[])
     Skin::apply(application);
 
     SettingsStore settings(SettingsStore::userFolder());
+    settings.clearUnfinished();
     const Clock clock;
     MessageBoxes messages;
     DesktopServices desktop;

@@ -4,6 +4,7 @@
 
 #include <QDir>
 #include <QFile>
+#include <QLockFile>
 #include <QSettings>
 #include <QStandardPaths>
 #include <QTemporaryFile>
@@ -113,6 +114,17 @@ Result SettingsStore::keepUnreadable(const QString &application) const
     if (check(application) || QFile::exists(kept) || QFile::copy(path, kept))
         return {};
     return notWritten(path);
+}
+
+void SettingsStore::clearUnfinished() const
+{
+    QDir dir(m_folder);
+    for (const QString &name : dir.entryList({QStringLiteral("*.ini.??????")}, QDir::Files)) {
+        // The library holds this lock while it writes, and a lock whose holder is gone is none.
+        QLockFile lock(dir.filePath(name.chopped(7)) + QStringLiteral(".lock"));
+        if (lock.tryLock(0))
+            dir.remove(name);
+    }
 }
 
 QString SettingsStore::unreadableName(const QString &application) const

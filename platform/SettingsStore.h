@@ -30,6 +30,8 @@ public:
     /// Whether the file of an application key can be read; a file that does not exist can.
     Result check(const QString &application) const;
     QString unreadableName(const QString &application) const;
+    /// Removes what a program that was killed while it saved has left beside the files.
+    void clearUnfinished() const;
 
 private:
     Result keepUnreadable(const QString &application) const;

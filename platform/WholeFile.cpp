@@ -1,12 +1,15 @@
 #include "platform/WholeFile.h"
 
 #include <QCoreApplication>
+#include <QDir>
 #include <QFile>
 #include <QFileInfo>
-#include <QSaveFile>
 
+#include <cerrno>
+#include <csignal>
 #include <filesystem>
 #include <system_error>
+#include <unistd.h>
 
 using namespace Qt::StringLiterals;
 
@@ -25,9 +28,8 @@ std::filesystem::path native(const QString &path)
     return std::filesystem::path(path.toStdU16String());
 }
 
-} // namespace
-
-Result WholeFile::write(const QString &path, QByteArrayView bytes)
+/// Renames the whole temporary file over the target, or leaves no trace of it.
+Result put(const QString &path, QByteArrayView bytes, bool isKept)
 {
     const QString temporary = temporaryPath(path);
     QFile file(temporary);
@@ -42,9 +44,16 @@ Result WholeFile::write(const QString &path, QByteArrayView bytes)
         done += taken;
     }
     QString cause = file.errorString();
+    bool isWhole = done == bytes.size();
+    if (isWhole && isKept) {
+        if (QFileInfo::exists(path))
+            file.setPermissions(QFile::permissions(path));
+        isWhole = ::fsync(file.handle()) == 0;
+        cause = qt_error_string();
+    }
     file.close();
-    if (done != bytes.size() || file.error() != QFileDevice::NoError) {
-        if (done == bytes.size())
+    if (!isWhole || file.error() != QFileDevice::NoError) {
+        if (isWhole)
             cause = file.errorString();
         file.remove();
         return {1, cause};
@@ -58,15 +67,32 @@ Result WholeFile::write(const QString &path, QByteArrayView bytes)
     return {};
 }
 
+/// Whether the program that left a temporary file still runs.
+bool isRunning(const QString &temporaryName)
+{
+    const int process = temporaryName.mid(temporaryStem.size()).toInt();
+    return process > 0 && (::kill(process, 0) == 0 || errno == EPERM);
+}
+
+} // namespace
+
+Result WholeFile::write(const QString &path, QByteArrayView bytes)
+{
+    return put(path, bytes, false);
+}
+
 Result WholeFile::replace(const QString &path, const QByteArray &bytes)
 {
-    QSaveFile file(path);
-    if (!file.open(QIODevice::WriteOnly))
-        return {1, file.errorString()};
-    // The commit alone passes over a disk that fills while the last bytes are written.
-    if (file.write(bytes) != bytes.size() || !file.flush() || !file.commit())
-        return {1, file.errorString()};
-    return {};
+    const QFileInfo target(path);
+    return put(target.isSymLink() ? target.symLinkTarget() : path, bytes, true);
+}
+
+void WholeFile::clearTemporaries(const QString &folder)
+{
+    QDir dir(folder);
+    for (const QString &name : dir.entryList({temporaryStem + u'*'}, QDir::Files | QDir::Hidden))
+        if (!isRunning(name))
+            dir.remove(name);
 }
 
 bool WholeFile::holds(const QString &path, QByteArrayView bytes)

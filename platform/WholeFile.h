@@ -13,6 +13,8 @@ namespace WholeFile {
 Result write(const QString &path, QByteArrayView bytes);
 /// The same for what can't be made again: the bytes are on the disk before the old file goes, which keeps its rights.
 Result replace(const QString &path, const QByteArray &bytes);
+/// Removes from a folder the temporary files of programs that no longer run.
+void clearTemporaries(const QString &folder);
 /// Whether the file holds exactly these bytes.
 bool holds(const QString &path, QByteArrayView bytes);
 /// Whether a file name is that of a temporary file, left behind by a run that was killed.

@@ -57,6 +57,15 @@ Result refreshLayout(const QString &from, const QString &to)
     return copyWhole(from, last);
 }
 
+/// What a killed program left half written, beside what it was to be.
+void clearTemporaries(const QString &folder)
+{
+    WholeFile::clearTemporaries(folder);
+    QDirIterator folders(folder, QDir::Dirs | QDir::Hidden | QDir::NoDotAndDotDot, QDirIterator::Subdirectories);
+    while (folders.hasNext())
+        WholeFile::clearTemporaries(folders.next());
+}
+
 } // namespace
 
 QString ApplicationFolder::delivered()
@@ -78,6 +87,7 @@ Result ApplicationFolder::fill(const QString &deliveredFolder, const QString &ap
 {
     Result first;
     const QDir from(deliveredFolder);
+    clearTemporaries(applicationFolder);
     QDirIterator files(deliveredFolder, QDir::Files, QDirIterator::Subdirectories);
     while (files.hasNext()) {
         const QString path = files.next();
