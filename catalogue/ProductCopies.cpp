@@ -15,7 +15,7 @@ std::vector<Result> runAll(Connection &gCnn, const QStringList &statements)
         return {action.begun()};
     std::vector<Result> failures = gCnn.executeAll(statements);
     if (Result ended = action.end(); !ended)
-        failures.push_back(std::move(ended));
+        return {ended}; // nothing is done, whatever else has failed
     return failures;
 }
 

@@ -272,12 +272,13 @@ void frmArticle::save()
         if (const Result ended = action.end(); article)
             article = ended;
     }
-    if (!article)
-        report({article}, u"AjouterArticle"_s);
-    report(attributes, u"AjouterFParam"_s);
-    report(prices, u"AjouterPrix"_s);
-    if (article)
+    if (article) {
+        report(attributes, u"AjouterFParam"_s);
+        report(prices, u"AjouterPrix"_s);
         saved();
+    } else {
+        report({article}, u"AjouterArticle"_s);
+    }
     session().gbRafraichirListe = true;
 }
 

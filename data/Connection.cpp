@@ -1,5 +1,7 @@
 #include "data/Connection.h"
 
+#include <utility>
+
 using namespace Qt::StringLiterals;
 
 namespace {
@@ -58,6 +60,24 @@ Reader Connection::read(const QString &statement, const std::vector<qint64> &val
     return m_store ? m_store->read(statement, values) : Reader::failed(notOpen());
 }
 
+Result Connection::begin()
+{
+    if (m_store && m_beforeChange)
+        m_beforeChange();
+    return m_store ? m_store->begin() : notOpen();
+}
+
+Result Connection::commit()
+{
+    return m_store ? m_store->commit() : notOpen();
+}
+
+void Connection::rollBack()
+{
+    if (m_store)
+        m_store->rollBack();
+}
+
 Result Connection::check()
 {
     return m_store ? m_store->check() : notOpen();
@@ -74,7 +94,7 @@ Result Connection::takeFrom(const QString &path)
 }
 
 StoreAction::StoreAction(Connection &connection)
-    : m_connection(connection), m_begun(connection.execute(u"BEGIN IMMEDIATE"_s)), m_open(bool(m_begun))
+    : m_connection(connection), m_begun(connection.begin()), m_open(bool(m_begun))
 {
 }
 
@@ -85,18 +105,11 @@ StoreAction::~StoreAction()
 
 Result StoreAction::end()
 {
-    if (!m_open)
-        return {};
-    m_open = false;
-    Result committed = m_connection.execute(u"COMMIT"_s);
-    if (!committed)
-        (void)m_connection.execute(u"ROLLBACK"_s);
-    return committed;
+    return std::exchange(m_open, false) ? m_connection.commit() : Result();
 }
 
 void StoreAction::abandon()
 {
-    if (m_open)
-        (void)m_connection.execute(u"ROLLBACK"_s);
-    m_open = false;
+    if (std::exchange(m_open, false))
+        m_connection.rollBack();
 }

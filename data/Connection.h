@@ -24,7 +24,11 @@ public:
     std::vector<Result> executeAll(const QStringList &statements);
     Reader read(const QString &statement, const std::vector<qint64> &values = {});
 
-    /// Called in front of every statement that `execute` runs.
+    /// See Store.
+    Result begin();
+    Result commit();
+    void rollBack();
+    /// Called in front of every statement that `execute` runs, and of a transaction.
     void setBeforeChange(std::function<void()> beforeChange) { m_beforeChange = std::move(beforeChange); }
     /// See Store.
     Result check();
@@ -38,7 +42,7 @@ private:
 };
 
 /// Several statements as one: they reach the store together when the object ends, and a statement that fails among
-/// them leaves the others done. A pulled plug leaves either all of them or none.
+/// them leaves the others done. A pulled plug or a full disk leaves either all of them or none.
 class StoreAction {
 public:
     explicit StoreAction(Connection &connection);

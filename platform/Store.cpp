@@ -126,12 +126,46 @@ bool Store::isReadOnly() const
 
 Result Store::execute(const QString &statement)
 {
+    if (isBroken())
+        return m_broken;
     try {
         m_database->exec(Dialect::toSqlite(statement).toStdString());
         return {};
     } catch (const SQLite::Exception &e) {
-        return failure(e);
+        Result failed = failure(e);
+        if (isBroken())
+            m_broken = failed;
+        return failed;
     }
+}
+
+bool Store::isBroken() const
+{
+    return m_inTransaction && sqlite3_get_autocommit(m_database->getHandle()) != 0;
+}
+
+Result Store::begin()
+{
+    Result begun = execute(u"BEGIN IMMEDIATE"_s);
+    m_inTransaction = bool(begun);
+    m_broken = {};
+    return begun;
+}
+
+Result Store::commit()
+{
+    Result committed = execute(u"COMMIT"_s);
+    if (!committed)
+        rollBack();
+    m_inTransaction = false;
+    return committed;
+}
+
+void Store::rollBack()
+{
+    if (!isBroken())
+        (void)execute(u"ROLLBACK"_s);
+    m_inTransaction = false;
 }
 
 Result Store::executeScript(const QString &script)

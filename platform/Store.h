@@ -65,6 +65,12 @@ public:
     bool isReadOnly() const;
     /// Runs one statement that gives no rows.
     Result execute(const QString &statement);
+    /// Opens a transaction for the statements that follow. One that fails leaves the others done, but a failure that
+    /// ends the transaction by itself, such as that of a full disk, ends them all: what follows is not run, and both
+    /// it and the commit give that failure.
+    Result begin();
+    Result commit();
+    void rollBack();
     /// Runs a script of several statements, in the dialect of the store itself. For the store builder.
     Result executeScript(const QString &script);
     /// Reads the rows of a statement; `values` fill its "?" in order. Statements stay prepared.
@@ -83,6 +89,10 @@ private:
     std::shared_ptr<SQLite::Statement> take(const QString &statement);
     void keep(const QString &statement, std::shared_ptr<SQLite::Statement> prepared);
 
+    bool isBroken() const;
+
     std::unique_ptr<SQLite::Database> m_database;
+    bool m_inTransaction = false;
+    Result m_broken; ///< the failure that ended the transaction by itself
     QHash<QString, std::shared_ptr<SQLite::Statement>> m_kept;
 };

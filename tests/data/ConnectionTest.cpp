@@ -18,6 +18,7 @@ private Q_SLOTS:
     void nextAttemptStartsAfresh();
     void secondClassReachesTheSameFile();
     void notOpen();
+    void aFullDiskEndsTheWholeAction();
     void dataSource();
 
 private:
@@ -105,6 +106,35 @@ void ConnectionTest::notOpen()
     QVERIFY(!executed && !rows.next() && !rows.result());
     QCOMPARE(rows.result().message(), executed.message());
     QVERIFY(!executed.text().isEmpty());
+}
+
+void ConnectionTest::aFullDiskEndsTheWholeAction()
+{
+    Connection connection;
+    QVERIFY(connection.open(connectionText(m_shop.path(u"zelvantor.mdb"_s))));
+    QVERIFY(connection.execute(u"DELETE FROM REF_REMARQUE"_s));
+    const auto count = [&connection] {
+        Reader row = connection.read(u"SELECT Count(*) FROM REF_REMARQUE"_s);
+        return row.next() ? row.integer(0) : -1;
+    };
+    Reader pages = connection.read(u"PRAGMA page_count"_s);
+    QVERIFY(pages.next());
+    QVERIFY(connection.execute(u"PRAGMA max_page_count = %1"_s.arg(pages.integer(0))));
+    {
+        StoreAction action(connection);
+        QVERIFY(action.begun());
+        QVERIFY(connection.execute(u"INSERT INTO REF_REMARQUE (idInfo) VALUES (1)"_s));
+        const Result full =
+            connection.execute(u"INSERT INTO REF_REMARQUE (sValeur) VALUES ('%1')"_s.arg(QString(100000, u'x')));
+        QCOMPARE(full.number(), 13);
+        QCOMPARE(connection.execute(u"INSERT INTO REF_REMARQUE (idInfo) VALUES (2)"_s).number(), 13);
+        QCOMPARE(action.end().number(), 13);
+    }
+    QCOMPARE(count(), 0);
+    StoreAction next(connection);
+    QVERIFY(connection.execute(u"INSERT INTO REF_REMARQUE (idInfo) VALUES (3)"_s));
+    QVERIFY(next.end());
+    QCOMPARE(count(), 1);
 }
 
 void ConnectionTest::dataSource()
