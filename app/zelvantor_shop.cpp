@@ -1,3 +1,4 @@
+#include "platform/WholeFile.h"
 #include "shop/ShopCheck.h"
 #include "shop/ShopRun.h"
 
@@ -8,6 +9,7 @@
 #include <QFileInfo>
 #include <QStandardPaths>
 
+#include <algorithm>
 #include <cstdio>
 
 using namespace Qt::StringLiterals;
@@ -78,12 +80,16 @@ std::optional<Arguments> readArguments(const QCoreApplication &application, int 
 }
 
 /// A run empties its folder first. One that a person names, that holds files and was never written by a run is
-/// surely a mistake.
-bool isForeign(const QString &folder)
+/// surely a mistake. A run that was cut off has left nothing but fixed assets, perhaps unfinished.
+bool isForeign(const QString &folder, const QString &imgFolder)
 {
     const QDir dir(folder);
-    return dir.exists() && !dir.entryList(QDir::Files | QDir::Hidden).isEmpty() && !dir.exists(u"nopcart.js"_s)
-           && !dir.exists(u"exmplmenu_var.js"_s);
+    if (dir.exists(u"nopcart.js"_s) || dir.exists(u"exmplmenu_var.js"_s))
+        return false;
+    const QStringList names = dir.entryList(QDir::Files | QDir::Hidden);
+    return std::any_of(names.begin(), names.end(), [&](const QString &name) {
+        return !WholeFile::isTemporaryName(name) && !QFileInfo::exists(imgFolder + u'/' + name);
+    });
 }
 
 bool isKnownLanguage(const QString &code, Connection &connection)
@@ -145,7 +151,8 @@ int run(const Arguments &arguments)
     const Clock clock;
     Session session(settings, clock, arguments.applicationFolder);
     session.readSettings();
-    if (!arguments.checkOnly && arguments.outputNamed && isForeign(arguments.outputFolder)) {
+    if (!arguments.checkOnly && arguments.outputNamed
+        && isForeign(arguments.outputFolder, arguments.applicationFolder + u"/img"_s)) {
         say(stderr, u"Le dossier %1 contient des fichiers qui ne sont pas d’une boutique ; rien n’a été fait."_s.arg(
                         arguments.outputFolder));
         return unusable;

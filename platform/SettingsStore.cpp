@@ -1,6 +1,7 @@
 #include "platform/SettingsStore.h"
 
 #include "platform/IniFile.h"
+#include "platform/WholeFile.h"
 
 #include <QDir>
 #include <QFile>
@@ -8,6 +9,8 @@
 #include <QSettings>
 #include <QStandardPaths>
 #include <QTemporaryFile>
+
+#include <algorithm>
 
 namespace {
 
@@ -28,13 +31,39 @@ Result notWritten(const QString &path)
     return {1, QStringLiteral("can't be written: ") + path};
 }
 
-Result written(QSettings &settings)
+QByteArray bytesOf(const QString &path)
+{
+    QFile file(path);
+    return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray();
+}
+
+/// Whether the file holds a line for every value. The library passes over a write that fails at the end of its saving.
+bool isWhole(const QSettings &settings)
+{
+    const QByteArray bytes = bytesOf(settings.fileName());
+    const QList<QByteArray> lines = bytes.split('\n');
+    const auto values = std::count_if(lines.begin(), lines.end(), [](const QByteArray &line) {
+        return line.contains('=') && !line.startsWith('[') && !line.startsWith(';');
+    });
+    return (bytes.isEmpty() || bytes.endsWith('\n')) && values == settings.allKeys().size();
+}
+
+/// Saves what has been changed; `before` is what comes back when the file can't be written whole.
+Result written(QSettings &settings, const QByteArray &before)
 {
     settings.sync();
+    const QString path = settings.fileName();
     // An error of form tells how the file was read; it has been written all the same.
     if (settings.status() == QSettings::AccessError)
-        return notWritten(settings.fileName());
-    QFile::setPermissions(settings.fileName(), QFile::ReadOwner | QFile::WriteOwner);
+        return notWritten(path);
+    if (!isWhole(settings)) {
+        if (before.isEmpty())
+            QFile::remove(path);
+        else if (const Result restored = WholeFile::replace(path, before); !restored)
+            return restored;
+        return notWritten(path);
+    }
+    QFile::setPermissions(path, QFile::ReadOwner | QFile::WriteOwner);
     return {};
 }
 
@@ -49,12 +78,6 @@ Result hasRoom(const QString &path, qsizetype more)
     if (probe.write(bytes) != bytes.size() || !probe.flush())
         return {1, probe.errorString()};
     return {};
-}
-
-QByteArray bytesOf(const QString &path)
-{
-    QFile file(path);
-    return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray();
 }
 
 } // namespace
@@ -92,11 +115,12 @@ Result SettingsStore::save(const QString &application, const QString &section, c
         return room;
     if (Result kept = keepUnreadable(application); !kept)
         return kept;
+    const QByteArray bytes = bytesOf(path);
     QSettings settings(path, QSettings::IniFormat);
     const QString key = keyOf(section, name);
     const QVariant before = settings.value(key);
     settings.setValue(key, value);
-    Result result = written(settings);
+    Result result = written(settings, bytes);
     if (!result) {
         // Or the library would give what it could not write, and write it at the next chance.
         if (before.isValid())
@@ -142,9 +166,10 @@ Result SettingsStore::remove(const QString &application, const QString &section,
 {
     if (Result kept = keepUnreadable(application); !kept)
         return kept;
+    const QByteArray bytes = bytesOf(fileName(application));
     QSettings settings(fileName(application), QSettings::IniFormat);
     settings.remove(keyOf(section, name));
-    return written(settings);
+    return written(settings, bytes);
 }
 
 QStringList SettingsStore::sections(const QString &application, const QString &section) const
