@@ -58,6 +58,8 @@ frmListProduct::frmListProduct(Session &session, QWidget *parent)
     grid.setColumnWidths(firstWidths);
     for (const int column : hiddenColumns)
         grid.hideColumns(column, column);
+    for (int column = IdProduit; column <= Last; ++column)
+        grid.widenToTitle(column);
     wire();
     wireKeys();
     Rechercher();

@@ -87,6 +87,14 @@ void Spread::setColumnWidths(const QList<int> &widths)
     setUpdatesEnabled(true);
 }
 
+void Spread::widenToTitle(int column)
+{
+    const int section = column - 1;
+    const int wanted = horizontalHeader()->sectionSizeHint(section);
+    if (!isColumnHidden(section) && horizontalHeader()->sectionSize(section) < wanted)
+        setColumnWidth(section, wanted);
+}
+
 void Spread::setActiveCell(int column, int row)
 {
     setCurrentIndex(m_cells->index(row - 1, column - 1));

@@ -32,6 +32,8 @@ public:
     QList<int> columnWidths() const;
     /// Gives the widths to the columns in order; a negative one leaves its column as it is.
     void setColumnWidths(const QList<int> &widths);
+    /// A column that is shown gets at least the width of its title.
+    void widenToTitle(int column);
     void setActiveCell(int column, int row);
     int activeRow() const { return currentIndex().row() + 1; }
     /// The last row with a text in one of its cells, 0 for an empty grid.

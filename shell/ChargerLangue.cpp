@@ -67,8 +67,10 @@ void giveGrids(const QWidget &frm, const Texts &texts)
 {
     for (Spread *grid : frm.findChildren<Spread *>())
         for (int column = 1; column <= grid->MaxCols(); ++column)
-            texts.give(grid->objectName() + u'_' + QString::number(column),
-                       [&](const QString &text) { grid->setText(column, 0, text); });
+            texts.give(grid->objectName() + u'_' + QString::number(column), [&](const QString &text) {
+                grid->setText(column, 0, text);
+                grid->widenToTitle(column);
+            });
 }
 
 void giveButtonBars(const QWidget &frm, const Texts &texts)
