@@ -50,7 +50,7 @@ struct PrintCells {
     QPointF corner(int cell) const;
 };
 
-/// A page as a `.tpl` file describes it (docs/layouts.md). A layout made by itself is an empty A4 page.
+/// A page as a `.tpl` file describes it (docs/architecture/layouts.md). A layout made by itself is an empty A4 page.
 struct PrintLayout {
     QString title;
     QString folder; ///< that relative pictures are found in
