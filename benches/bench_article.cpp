@@ -1,6 +1,7 @@
 // The product screen in a catalogue of 30,000 products: opened, and saved beside one bare transaction of the same
 // rows on the library of the store.
 #include "benches/DeskBench.h"
+#include "benches/Figure.h"
 #include "catalogue/Article.h"
 #include "catalogue/frmArticle.h"
 
@@ -70,7 +71,7 @@ int main(int argc, char *argv[])
         validate->click();
     });
     const double bare = bareTransaction(desk);
-    std::printf("article, open in %d products: %.0f ms (aim 100)\n", products, open);
-    std::printf("article, save: %.1f ms (aim 100), ratio %.2f to a bare transaction (aim 5)\n", save, save / bare);
+    Figure("article, open in " + std::to_string(products) + " products", open, "ms").atMost(100);
+    Figure("article, save", save, "ms").beside("a bare transaction", save / bare, 5);
     return 0;
 }

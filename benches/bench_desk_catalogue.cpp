@@ -1,5 +1,6 @@
 // The shop screen opened on a catalogue of 30,000 products.
 #include "benches/DeskBench.h"
+#include "benches/Figure.h"
 #include "shop/frmCatalogue.h"
 
 int main(int argc, char *argv[])
@@ -17,7 +18,8 @@ int main(int argc, char *argv[])
         if (checked)
             QApplication::processEvents();
     };
-    std::printf("catalogue, open on %d products: %.0f ms (aim 300)\n", products, fastest(rounds, [&] { open(false); }));
-    std::printf("catalogue, open and checked: %.0f ms\n", fastest(rounds, [&] { open(true); }));
+    const std::string name = "catalogue, open on " + std::to_string(products) + " products";
+    Figure(name, fastest(rounds, [&] { open(false); }), "ms").atMost(300);
+    Figure(name + ", with its check", fastest(rounds, [&] { open(true); }), "ms");
     return 0;
 }

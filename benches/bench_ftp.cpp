@@ -1,4 +1,7 @@
-// Uploads through the FTP session beside a bare loop of its library on one connection, and a long folder.
+// Uploads through the FTP session beside a bare loop of its library on one connection and beside another client, on a
+// near server and behind a slow line, and a long folder.
+#include "benches/DelayRelay.h"
+#include "benches/Figure.h"
 #include "ftp/PaneRow.h"
 #include "ftp/RemoteListing.h"
 #include "platform/FtpClient.h"
@@ -7,6 +10,8 @@
 
 #include <QCoreApplication>
 #include <QElapsedTimer>
+#include <QProcess>
+#include <QTemporaryDir>
 
 #include <curl/curl.h>
 
@@ -24,6 +29,8 @@ constexpr int fileSize = 8192;
 constexpr int bigSize = 200 * 1024 * 1024;
 constexpr int entries = 10000;
 constexpr int rounds = 3;
+constexpr int slowFiles = 100;
+constexpr int roundTrip = 20; // milliseconds
 
 double seconds(const std::function<void()> &work)
 {
@@ -91,10 +98,33 @@ double median(std::vector<double> values)
     return values[values.size() / 2];
 }
 
-void uploads(const char *name, FtpClient &client, BareLoop &bare, const QString &local, int count)
+/// The same files through lftp, with its start: a moment among so many files.
+double otherClient(const RealServer &server, int port, const QString &local, const QString &name, int count)
+{
+    const QTemporaryDir folder;
+    for (int i = 0; i < count; ++i)
+        QFile::link(local, folder.filePath(name + QString::number(i)));
+    const QString script = u"set ftp:ssl-allow no; set cmd:fail-exit yes; set xfer:clobber yes; "
+                           "open -u \"%1,%2\" -p %3 127.0.0.1; lcd %4; mput -O / *; bye"_s.arg(
+                               server.user(), RealServer::password, QString::number(port), folder.path());
+    QProcess process;
+    const double time = seconds([&] {
+        process.start(u"lftp"_s, {u"-c"_s, script});
+        process.waitForFinished(-1);
+    });
+    if (process.exitStatus() != QProcess::NormalExit || process.exitCode() != 0) {
+        std::fprintf(stderr, "lftp: %s\n", process.readAllStandardError().constData());
+        std::exit(1);
+    }
+    return time;
+}
+
+void uploads(const std::string &name, FtpClient &client, BareLoop &bare, const RealServer &server, const QString &local,
+             int count)
 {
     std::vector<double> ours;
-    std::vector<double> ratios;
+    std::vector<double> toBare;
+    std::vector<double> toOther;
     for (int round = 0; round < rounds; ++round) {
         const double loop = seconds([&] {
             for (int i = 0; i < count; ++i)
@@ -104,10 +134,28 @@ void uploads(const char *name, FtpClient &client, BareLoop &bare, const QString 
             for (int i = 0; i < count; ++i)
                 check(client.Store(u"ours"_s + QString::number(i), local));
         }));
-        ratios.push_back(loop / ours.back());
+        toBare.push_back(loop / ours.back());
+        toOther.push_back(otherClient(server, server.port(), local, u"other"_s, count) / ours.back());
     }
-    std::printf("ftp %s seconds: %.3f\n", name, median(ours));
-    std::printf("ftp %s rate to a bare loop's: %.2f\n", name, median(ratios));
+    Figure("ftp, " + name, median(ours), "s").besideAtLeast("a bare loop's rate", median(toBare), 0.7);
+    Figure("ftp, " + name + ", again", median(ours), "s").besideAtLeast("lftp's rate", median(toOther), 0.7);
+}
+
+void slowLine(const RealServer &server, const QString &local)
+{
+    const DelayRelay line(server.port(), roundTrip);
+    FtpClient client;
+    check(client.Login(u"127.0.0.1"_s, server.user(), RealServer::password, {}, line.port()));
+    std::vector<double> each;
+    const double ours = seconds([&] {
+        for (int i = 0; i < slowFiles; ++i)
+            each.push_back(1000 * seconds([&] { check(client.Store(u"slow"_s + QString::number(i), local)); }));
+    });
+    const double other = otherClient(server, line.port(), local, u"slowother"_s, slowFiles);
+    const std::string name = "ftp, " + std::to_string(slowFiles) + " files over a slow line";
+    Figure(name, ours, "s").beside("lftp's time", ours / other, 0.75);
+    Figure(name + ", one file", median(each) / roundTrip, "round trips").atMost(4.3);
+    Figure(name + ", slowest above the median", *std::ranges::max_element(each) - median(each), "ms").atMost(500);
 }
 
 void longFolder(FtpClient &client, const RealServer &server)
@@ -125,8 +173,8 @@ void longFolder(FtpClient &client, const RealServer &server)
     if (rows.size() != entries)
         std::exit(1);
     const double sort = seconds([&] { rows = Panes::sorted(std::move(rows), PaneColumn::Name); });
-    std::printf("ftp listing of %d read milliseconds: %.0f\n", entries, read * 1000);
-    std::printf("ftp listing of %d sorted milliseconds: %.0f\n", entries, sort * 1000);
+    Figure("ftp, listing of " + std::to_string(entries) + " entries read", read * 1000, "ms").atMost(300);
+    Figure("ftp, listing of " + std::to_string(entries) + " entries sorted", sort * 1000, "ms").atMost(100);
 }
 
 } // namespace
@@ -141,8 +189,9 @@ int main(int argc, char *argv[])
     FtpClient client;
     check(client.Login(u"127.0.0.1"_s, server.user(), RealServer::password, {}, server.port()));
     BareLoop bare(server);
-    uploads("2,000 files of 8 kB", client, bare, folder.filePath(u"small"_s), files);
-    uploads("file of 200 MB", client, bare, folder.filePath(u"big"_s), 1);
+    uploads("2,000 files of 8 kB", client, bare, server, folder.filePath(u"small"_s), files);
+    uploads("file of 200 MB", client, bare, server, folder.filePath(u"big"_s), 1);
+    slowLine(server, folder.filePath(u"small"_s));
     longFolder(client, server);
     return 0;
 }

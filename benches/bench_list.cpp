@@ -1,5 +1,6 @@
 // The product list on a catalogue of 30,000 products, beside a bare table filled from the same statement.
 #include "benches/DeskBench.h"
+#include "benches/Figure.h"
 #include "catalogue/ProductSearch.h"
 #include "catalogue/frmListProduct.h"
 #include "platform/Spread.h"
@@ -91,8 +92,8 @@ void exportBeside(DeskBench &desk, frmListProduct &window, Spread &grid)
     const double text = fastest(rounds, [&] { (void)grid.saveTabText(desk.path(u"out.txt"_s)); });
     const double html = fastest(rounds, [&] { (void)grid.exportHtml(desk.path(u"out.html"_s)); });
     window.show();
-    std::printf("list, export of %d rows as text: %.0f ms, ratio %.2f (aim 3)\n", products, text, text / plain);
-    std::printf("list, export as HTML: %.0f ms, ratio %.2f (aim 3)\n", html, html / plain);
+    Figure("list, export of all rows as text", text, "ms").beside("plain writing", text / plain, 3);
+    Figure("list, export of all rows as HTML", html, "ms").beside("plain writing", html / plain, 3);
 }
 
 } // namespace
@@ -120,13 +121,13 @@ int main(int argc, char *argv[])
         search->click();
         grid.grab();
     });
-    std::printf("list, search of all %d products: %.0f ms, ratio %.2f to a bare table (aim 1.5)\n", products, all,
-                all / bare);
-    std::printf("list, search of a prefix (%d rows): %.0f ms (aim 80)\n", grid.MaxRows(), prefix);
-    std::printf("list, memory of the full grid: %.0f MB (aim 150)\n", added);
+    Figure("list, search of all " + std::to_string(products) + " products", all, "ms")
+        .beside("a bare table", all / bare, 1.5);
+    Figure("list, search of a prefix, " + std::to_string(grid.MaxRows()) + " rows", prefix, "ms").atMost(80);
+    Figure("list, memory of the full grid", added, "MB").atMost(150);
     window.findChild<QPushButton *>(u"Cmdinitialiser"_s)->click();
     search->click();
-    std::printf("list, worst step of scrolling from end to end: %.0f ms (aim 50)\n", worstScroll(grid));
+    Figure("list, worst step of scrolling from end to end", worstScroll(grid), "ms").atMost(50);
     exportBeside(desk, window, grid);
     return 0;
 }

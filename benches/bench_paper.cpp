@@ -1,5 +1,6 @@
 // Labels and a product sheet as PDF, beside the least that any painter of the same texts and bars has to do.
 #include "benches/Fastest.h"
+#include "benches/Figure.h"
 #include "catalogue/Ean13.h"
 #include "catalogue/ProductSheet.h"
 #include "platform/Ean13Bars.h"
@@ -119,17 +120,15 @@ int main(int argc, char *argv[])
     QElapsedTimer first;
     first.start();
     make(sheet);
-    std::printf("paper, first sheet of a run: %.0f ms\n", double(first.nsecsElapsed()) / 1e6);
-    std::printf("paper, label sheet: %.0f ms (aim 150)\n", fastest(rounds, [&] { make(sheet); }));
-    std::printf("paper, product sheet: %.0f ms (aim 150)\n", fastest(rounds, [&] { make(product); }));
+    Figure("paper, first sheet of a run", double(first.nsecsElapsed()) / 1e6, "ms");
+    Figure("paper, label sheet", fastest(rounds, [&] { make(sheet); }), "ms").atMost(150);
+    Figure("paper, product sheet", fastest(rounds, [&] { make(product); }), "ms").atMost(150);
 
     PrintDocument many{layoutOf(u"etiquette1.tpl"_s)};
     for (int i = 1; i <= labels; ++i)
         many.cells << fieldsOf(i);
     const double engine = fastest(rounds, [&] { make(many); });
     const double bare = fastest(rounds, [&] { paintBare(many.layout, many.cells); });
-    std::printf("paper, %d labels: %.0f ms\n", labels, engine);
-    std::printf("paper, %d labels, bare painter: %.0f ms\n", labels, bare);
-    std::printf("paper, ratio of the two: %.2f (aim 3)\n", engine / bare);
+    Figure("paper, " + std::to_string(labels) + " labels", engine, "ms").beside("a bare painter", engine / bare, 3);
     return 0;
 }

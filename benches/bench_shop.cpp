@@ -1,5 +1,6 @@
 // Whole shops of several sizes, beside a bare floor and beside plain writing of the same bytes.
 #include "benches/BenchCatalogue.h"
+#include "benches/Figure.h"
 #include "benches/Floor.h"
 
 #include <QDir>
@@ -116,14 +117,12 @@ double measure(const char *name, int products, int pictureSize)
         writing = std::min(writing, Floor::copyBytes(out.toStdString(), outputs.filePath(u"copy"_s).toStdString()));
     }
 
-    std::printf("%s: %.2f s\n", name, first.seconds);
-    std::printf("%s pages per second: %.0f\n", name, files / first.seconds);
-    std::printf("%s ratio to floor: %.2f (aim 2.50)\n", name, first.seconds / floor);
-    std::printf("%s ratio to plain writing: %.2f\n", name, first.seconds / writing);
-    std::printf("%s second run: %.2f s, ratio to first: %.2f (aim below 1)\n", name, second.seconds,
-                second.seconds / first.seconds);
-    std::printf("%s peak memory: %.0f MB\n", name, first.peakMegabytes);
-    std::fflush(stdout);
+    const std::string row = name;
+    Figure(row, first.seconds, "s").beside("the floor of reading and writing", first.seconds / floor, 2.5);
+    Figure(row + ", times plain writing", first.seconds / writing, "");
+    Figure(row + ", pages", files / first.seconds, "a second");
+    Figure(row + ", second run", second.seconds, "s").beside("the first", second.seconds / first.seconds, 1);
+    Figure(row + ", peak memory", first.peakMegabytes, "MB");
     return first.seconds / products;
 }
 
@@ -131,10 +130,10 @@ double measure(const char *name, int products, int pictureSize)
 
 int main()
 {
-    const double small = measure("shop 1000", 1000, 0);
-    measure("shop 10000", 10000, 0);
-    const double large = measure("shop 30000", 30000, 0);
-    measure("shop 5000 with pictures", 5000, 40000);
-    std::printf("time per product, 30000 against 1000: %.2f (aim 1.25)\n", large / small);
+    const double small = measure("shop, 1000", 1000, 0);
+    measure("shop, 10000", 10000, 0);
+    const double large = measure("shop, 30000", 30000, 0);
+    measure("shop, 5000 with pictures", 5000, 40000);
+    Figure("shop, time per product at 30000", large * 1e6, "µs").beside("that at 1000", large / small, 1.25);
     return 0;
 }

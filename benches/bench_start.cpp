@@ -1,6 +1,7 @@
 // From exec to the login window and from the login to the main window, beside an empty program of the same toolkit.
 // Without an argument it runs itself in both roles, several times, and prints the best.
 #include "app/DeskScreens.h"
+#include "benches/Figure.h"
 #include "platform/Desktop.h"
 #include "platform/Messages.h"
 #include "shell/ApplicationFolder.h"
@@ -157,9 +158,7 @@ int main(int argc, char *argv[])
     const double empty = measured({u"empty"_s}, "empty");
     const double login = measured({u"desk"_s, place.path()}, "login");
     const double main = measured({u"desk"_s, place.path()}, "main");
-    std::printf("start, empty program: %.0f ms\n", empty);
-    std::printf("start, login window: %.0f ms\n", login);
-    std::printf("start, ratio: %.2f (aim 4.50)\n", login / empty);
-    std::printf("start, main window after the login: %.0f ms (aim 300)\n", main);
+    Figure("start, login window", login, "ms").beside("an empty program", login / empty, 4.5);
+    Figure("start, main window after the login", main, "ms").atMost(300);
     return 0;
 }

@@ -1,5 +1,6 @@
 // Reading whole products through the connection, beside a bare loop of the store's own library.
 #include "benches/BenchCatalogue.h"
+#include "benches/Figure.h"
 #include "data/Connection.h"
 #include "platform/StoreText.h"
 
@@ -79,8 +80,7 @@ int main()
         bare = std::min(bare, bareLoop(path));
         ours = std::min(ours, throughConnection(path));
     }
-    std::printf("store, %d whole products: %.0f ms\n", products, ours * 1000);
-    std::printf("store, bare loop: %.0f ms\n", bare * 1000);
-    std::printf("store, ratio: %.2f (aim 2.00)\n", ours / bare);
+    Figure("store, reading " + std::to_string(products) + " whole products", ours * 1000, "ms")
+        .beside("a bare loop", ours / bare, 2);
     return 0;
 }

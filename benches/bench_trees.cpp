@@ -1,5 +1,6 @@
 // The trees of the reference data: 5,000 nodes shown, and an editor on 2,000 children.
 #include "benches/DeskBench.h"
+#include "benches/Figure.h"
 #include "reference/frmMaterial.h"
 #include "reference/frmRefDetail.h"
 
@@ -62,7 +63,7 @@ int main(int argc, char *argv[])
         window.show();
         window.grab();
     });
-    std::printf("paper, tree of %d nodes: %.0f ms (aim 200)\n", nodes, tree);
-    std::printf("paper, editor on %d children: %.0f ms (aim 200)\n", children, editor);
+    Figure("tree of " + std::to_string(nodes) + " nodes", tree, "ms").atMost(200);
+    Figure("editor on " + std::to_string(children) + " children", editor, "ms").atMost(200);
     return 0;
 }
