@@ -5,6 +5,7 @@
 #include "platform/WholeFile.h"
 
 #include <QFile>
+#include <QHash>
 #include <QStringConverter>
 
 #define SI_NO_CONVERSION
@@ -86,6 +87,8 @@ Result IniFile::load(const QString &path)
     const QString text = decoded(file.readAll(), m_remarks);
     m_damaged = std::any_of(text.begin(), text.end(), isForeign);
     QStringList lines = text.split(u'\n');
+    QHash<QString, qsizetype> known;
+    QString section;
     for (qsizetype i = 0; i < lines.size(); ++i) {
         QString &line = lines[i];
         if (line.endsWith(u'\r'))
@@ -96,6 +99,15 @@ Result IniFile::load(const QString &path)
             line.prepend(keptLine);
         }
         line = protectTrailingBlanks(line);
+        if (isCommentOrBlank(line))
+            continue;
+        // Of two lines with one key the last counts; the library would not write the other one back.
+        const QString name = line.section(u'=', 0, 0).trimmed().toLower();
+        if (name.startsWith(u'['))
+            section = name;
+        else if (const qsizetype earlier = known.value(section + name, -1); earlier >= 0)
+            lines[earlier].prepend(keptLine);
+        known.insert(section + name, i);
     }
     // The library drops comments that no key follows, so a key of its own follows them.
     lines << lastKey + u'=';

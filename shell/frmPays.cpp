@@ -53,11 +53,17 @@ void frmPays::validate()
     take(*m_ui->cbMonnaie, m_colMonnaie, currency);
     const std::pair<QString, QString> values[] = {
         {u"PAYS"_s, country}, {u"LANGUE"_s, language}, {u"MONNAIE"_s, currency}};
+    std::vector<std::pair<QString, QString>> before;
     for (const auto &[name, value] : values) {
-        if (const Result saved = session().saveSetting(name, value); !saved) {
-            session().messages->box(Causes::message(saved, session().localisation), u"frmPays"_s);
-            return;
-        }
+        before.emplace_back(name, session().setting(name));
+        const Result saved = session().saveSetting(name, value);
+        if (saved)
+            continue;
+        // All three or none: a start that finds one missing asks for all of them again.
+        for (const auto &[earlier, old] : before)
+            (void)session().saveSetting(earlier, old);
+        session().messages->box(Causes::message(saved, session().localisation), u"frmPays"_s);
+        return;
     }
     session().gsPays = country;
     session().localisation.gsLangue = language;
