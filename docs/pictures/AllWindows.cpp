@@ -1,11 +1,15 @@
 #include "docs/pictures/AllWindows.h"
 
+#include "catalogue/AttachmentList.h"
 #include "catalogue/frmArticle.h"
 #include "catalogue/frmDlgOpenDoc.h"
 #include "catalogue/frmListProduct.h"
+#include "docs/pictures/WebSpace.h"
+#include "ftp/FtpPane.h"
 #include "ftp/frmCertificate.h"
 #include "ftp/frmFTP.h"
 #include "reference/frmMaterial.h"
+#include "reference/frmRMParamDetail.h"
 #include "reference/frmRefDetail.h"
 #include "reference/frmTrad.h"
 #include "shell/ApplicationFolder.h"
@@ -20,23 +24,41 @@
 #include "shop/frmCatalogue.h"
 #include "shop/frmInfo.h"
 
+#include "platform/NumberBox.h"
 #include "platform/Spread.h"
 
+#include <QAction>
 #include <QApplication>
 #include <QCheckBox>
 #include <QComboBox>
-#include <QDir>
+#include <QDirIterator>
 #include <QFile>
+#include <QLineEdit>
 #include <QListWidget>
+#include <QPlainTextEdit>
 #include <QPushButton>
 #include <QTabWidget>
+#include <QThread>
 #include <QTimer>
 #include <QToolButton>
+#include <QTreeView>
 #include <QTreeWidget>
+
+#include <utility>
 
 using namespace Qt::StringLiterals;
 
 namespace {
+
+constexpr int productWithBands = 19;
+const QString newPicture = u"bol-celadon-1.jpg"_s;
+
+/// Where the session has its pictures, else those of the sample.
+QString picturesFolder(const Session &session)
+{
+    const QString set = session.setting(u"PATHPHOTO"_s);
+    return set.isEmpty() ? ApplicationFolder::sample(session.applicationFolder) + u"/pictures"_s : set;
+}
 
 void show(QWidget &window, const WindowLook &look, const QString &name)
 {
@@ -46,13 +68,36 @@ void show(QWidget &window, const WindowLook &look, const QString &name)
     look(window, name);
 }
 
+/// The four tabs, a shop that has been generated, and what the check tells of settings that a visitor would stumble on.
 void showCatalogue(Session &session, const WindowLook &look)
 {
     frmCatalogue window(session, nullptr);
+    const auto press = [&window](const QString &button) { window.findChild<QPushButton *>(button)->click(); };
     auto *tabs = window.findChild<QTabWidget *>(u"SSTab1"_s);
     for (int i = 0; i < tabs->count(); ++i) {
         tabs->setCurrentIndex(i);
         show(window, look, u"frmCatalogue-%1"_s.arg(i + 1));
+    }
+    tabs->setCurrentIndex(0);
+    press(u"cmdValider"_s);
+    show(window, look, u"frmCatalogue-done"_s);
+    tabs->setCurrentIndex(2);
+    window.findChild<QLineEdit *>(u"txtMin"_s)->clear();
+    window.findChild<QLineEdit *>(u"txtPPEmail"_s)->clear();
+    window.findChild<QLineEdit *>(u"txtTaxe"_s)->setText(u"20 %"_s);
+    window.findChild<Spread *>(u"fpSpread12"_s)->setText(2, 2, u"6,90"_s);
+    window.findChild<QLineEdit *>(u"txtTitre"_s)->setText(u"La \"Remise\" aux Tilleuls"_s);
+    press(u"cmdControle"_s);
+    show(window, look, u"frmCatalogue-check"_s);
+}
+
+/// The model of a tree of folders reads them in a thread of its own.
+void waitForFolders(const QTreeView &tree)
+{
+    constexpr int rounds = 50;
+    for (int round = 0; round < rounds && tree.model()->rowCount(tree.rootIndex()) == 0; ++round) {
+        QThread::msleep(10);
+        QApplication::processEvents();
     }
 }
 
@@ -65,12 +110,18 @@ void showStart(Session &session, const WindowLook &look)
     }
     {
         frmDbPath window(session, nullptr);
+        window.findChild<QAbstractButton *>(u"optExemple"_s)->click();
+        waitForFolders(*window.findChild<QTreeView *>(u"Dir1"_s));
         show(window, look, u"frmDbPath"_s);
         session.gsDbPath = ApplicationFolder::sample(session.applicationFolder) + u"/zelvantor.mdb"_s;
     }
     {
+        const QString user = std::exchange(session.gsLogin, u"admin"_s);
+        session.gbPremierLancement = true;
         frmLogin window(session, nullptr);
         show(window, look, u"frmLogin"_s);
+        session.gbPremierLancement = false;
+        session.gsLogin = user;
     }
     {
         frmSplash window;
@@ -82,7 +133,8 @@ void showWindows(Session &session, const WindowLook &look)
 {
     {
         frmMain window(session);
-        window.resize(1000, 640);
+        window.show();
+        window.resize(1180, 660); // the platform without a display fits a window into its small screen at first
         show(window, look, u"frmMain"_s);
         window.findChild<QToolButton *>(u"produit"_s)->click();
         window.resize(1300, 700); // the list asks for it where the screen has the room
@@ -98,8 +150,8 @@ void showWindows(Session &session, const WindowLook &look)
     }
     {
         const StoreCopies copies(session.gsDbPath);
-        for (int day = 1; day <= 3; ++day)
-            (void)copies.keepDay(session.gCnn, QDate(2026, 3, day));
+        for (const QDate day : {QDate(2026, 2, 27), QDate(2026, 3, 1), QDate(2026, 3, 2)})
+            (void)copies.keepDay(session.gCnn, day);
         frmCopies window(session, nullptr);
         show(window, look, u"frmCopies"_s);
     }
@@ -112,15 +164,46 @@ void showWindows(Session &session, const WindowLook &look)
         show(window, look, u"frmTrad"_s);
     }
     {
-        (void)session.saveSetting(u"PATHPHOTO"_s,
-                                  ApplicationFolder::sample(session.applicationFolder) + u"/pictures"_s);
+        (void)session.saveSetting(u"PATHPHOTO"_s, picturesFolder(session));
         session.gbPhotos = true;
-        session.gbChoixFichier = true;
+        session.glIdProduit = productWithBands;
         frmDlgOpenDoc window(session, nullptr);
         window.findChild<QComboBox *>(u"cbType"_s)->setCurrentIndex(6);
-        window.findChild<QListWidget *>(u"File1"_s)->setCurrentRow(0);
+        auto *files = window.findChild<QListWidget *>(u"File1"_s);
+        for (QListWidgetItem *file : files->findItems(newPicture, Qt::MatchExactly))
+            files->setCurrentItem(file);
         show(window, look, u"frmDlgOpenDoc"_s);
     }
+}
+
+/// A product as it stands before its first save: group, name, prices and a picture.
+void showNewProduct(Session &session, const WindowLook &look)
+{
+    session.giModeProduit = 1;
+    frmArticle window(session, nullptr);
+    window.show();
+    const auto type = [&window](const QString &box, const QString &text) {
+        window.findChild<QLineEdit *>(box)->setText(text);
+        if (auto *number = window.findChild<NumberBox *>(box))
+            number->complete();
+    };
+    const auto choose = [&window](const QString &box, const QString &text) {
+        window.findChild<QComboBox *>(box)->setCurrentText(text);
+    };
+    choose(u"cbCategory"_s, u"Table"_s);
+    choose(u"cbFamille"_s, u"Tasses et bols"_s);
+    window.findChild<QToolButton *>(u"cmdTrans"_s)->click();
+    type(u"txtNom_0"_s, u"Bol à déjeuner en grès céladon"_s);
+    type(u"txtNom_1"_s, u"Breakfast bowl, celadon stoneware"_s);
+    window.findChild<QPlainTextEdit *>(u"txtObservation_0"_s)
+        ->setPlainText(u"<p>Un bol de 50 cl, tourné et émaillé à la main.</p>"_s);
+    type(u"txtPrixAchat"_s, u"7.50"_s);
+    type(u"txtFrais"_s, u"0.50"_s);
+    type(u"txtMarge"_s, u"2"_s);
+    type(u"txtQte"_s, u"12"_s);
+    auto *pictures = window.findChild<AttachmentList *>(u"lstPicture"_s);
+    Q_EMIT pictures->filesDropped({picturesFolder(session) + u'/' + newPicture});
+    show(window, look, u"frmArticle-new"_s);
 }
 
 /// The list with a row chosen, and the screen of its product with a picture chosen.
@@ -130,6 +213,15 @@ void showProducts(Session &session, const WindowLook &look)
         frmListProduct window(session, nullptr);
         window.findChild<Spread *>(u"fpSpread1"_s)->setActiveCell(2, 3);
         show(window, look, u"frmListProduct"_s);
+    }
+    {
+        Reader row = session.gCnn.read(u"SELECT idCategorie FROM T_PRODUIT"_s);
+        ReferenceSelection group{true, u"Cuisine"_s};
+        group.idParent = row.next() ? int(row.integer(0)) : 0;
+        group.iNiveau = 2;
+        frmRMParamDetail window(session, group, nullptr);
+        window.findChild<Spread *>(u"fpSpread4"_s)->setActiveCell(1, 1);
+        show(window, look, u"frmRMParamDetail"_s);
     }
     {
         frmMaterial window(session, true, nullptr);
@@ -145,10 +237,14 @@ void showProducts(Session &session, const WindowLook &look)
         show(window, look, u"frmRefDetail"_s);
     }
     session.giModeProduit = 2;
-    frmArticle window(session, nullptr);
-    window.findChild<QListWidget *>(u"lstPicture"_s)->setCurrentRow(0);
-    window.findChild<QCheckBox *>(u"chPrix"_s)->setChecked(true);
-    show(window, look, u"frmArticle"_s);
+    session.glIdProduit = productWithBands;
+    {
+        frmArticle window(session, nullptr);
+        window.findChild<QListWidget *>(u"lstPicture"_s)->setCurrentRow(0);
+        window.findChild<QCheckBox *>(u"chPrix"_s)->setChecked(true);
+        show(window, look, u"frmArticle"_s);
+    }
+    showNewProduct(session, look);
 }
 
 /// The label window, which waits for a person, and the preview of the button that is pressed in a window.
@@ -174,13 +270,54 @@ void showPaper(Session &session, const WindowLook &look)
     window.findChild<QPushButton *>(u"cmdEtiquette"_s)->click();
 }
 
-/// The FTP client beside a shop that has been generated, and its dialogues.
+/// The FTP client beside the shop that has been generated, with what it asks on the way.
 void showFtp(Session &session, const WindowLook &look)
 {
-    QDir().mkpath(session.applicationFolder + u"/temp/images"_s);
-    for (const QString &name : {u"index.htm"_s, u"checkout.htm"_s, u"nopcart.js"_s, u"searchdb.js"_s})
-        QFile::copy(session.applicationFolder + u"/FR.cda"_s, session.applicationFolder + u"/temp/"_s + name);
-    frmFTP window(session, nullptr);
+    const QString shop = session.applicationFolder + u"/temp"_s;
+    for (QDirIterator files(shop, QDir::Files); files.hasNext();) {
+        QFile file(files.next());
+        if (file.open(QIODevice::ReadWrite))
+            file.setFileTime(QDateTime(session.clock.today(), QTime(9, 30)), QFileDevice::FileModificationTime);
+    }
+    frmFTP window(session, nullptr, std::make_unique<WebSpace>());
+    window.show();
+    QTimer answers;
+    QObject::connect(&answers, &QTimer::timeout, &window, [&] {
+        QWidget *asks = QApplication::activeModalWidget();
+        if (!asks)
+            return;
+        answers.stop();
+        const QString name = asks->objectName();
+        const auto fill = [asks](const QString &box, const QString &text) {
+            if (auto *field = asks->findChild<QLineEdit *>(box))
+                field->setText(text);
+        };
+        fill(u"txtRemoteHost"_s, u"ftp.mon-hebergeur.example"_s);
+        fill(u"txtUserName"_s, u"remise-tilleuls"_s);
+        fill(u"txtPassword"_s, u"tilleul"_s);
+        fill(u"txtRemoteDir"_s, u"/www"_s);
+        fill(u"txtRename"_s, u"index-ancien.htm"_s);
+        show(*asks, look, name);
+        asks->findChild<QPushButton *>(name == u"frmTransfer"_s ? u"cmdRename"_s : u"cmdOK"_s)->click();
+        answers.start();
+    });
+    answers.start(50);
+    window.findChild<QAction *>(u"connect"_s)->trigger();
+    auto *local = window.findChild<FtpPane *>(u"lvwLocal"_s);
+    const auto choose = [local](const QStringList &names) {
+        local->clearSelection();
+        for (const QString &name : names)
+            for (QTreeWidgetItem *row : local->findItems(name, Qt::MatchExactly)) {
+                local->setCurrentItem(row, 0, QItemSelectionModel::NoUpdate);
+                row->setSelected(true);
+            }
+    };
+    const auto send = [&window] { window.findChild<QToolButton *>(u"cmdAjouter"_s)->click(); };
+    choose({u"contact.htm"_s, u"index.htm"_s, u"nopcart.js"_s, u"searchdb.js"_s});
+    send();
+    answers.stop();
+    choose({u"contact.htm"_s});
+    local->selectAll();
     show(window, look, u"frmFTP"_s);
     FtpCertificate certificate;
     certificate.host = u"ftp.mon-hebergeur.example"_s;
@@ -190,6 +327,7 @@ void showFtp(Session &session, const WindowLook &look)
     certificate.until = QDateTime(QDate(2027, 1, 1), QTime());
     certificate.fingerprint = u"5E:7C:0B:91:A4:33:D8:62:17:EE:40:5A:9C:28:B6:F1:"
                               "03:7D:E9:54:88:CA:1F:60:B3:92:4E:D7:05:6A:FC:21"_s;
+    certificate.reason = u"self-signed certificate"_s;
     frmCertificate question(session, certificate, false, nullptr);
     show(question, look, u"frmCertificate"_s);
 }

@@ -1,4 +1,5 @@
 // Saves a picture of every window: make_pictures FOLDER [LANGUAGE] [dark]
+// Day, paths and file dates in them are the same in every run.
 #include "app/DeskScreens.h"
 #include "docs/pictures/AllWindows.h"
 #include "platform/Desktop.h"
@@ -10,7 +11,7 @@
 #include <QApplication>
 #include <QDir>
 #include <QFile>
-#include <QTemporaryDir>
+#include <QLockFile>
 #include <QWidget>
 
 #include <cstdio>
@@ -29,6 +30,10 @@ public:
     bool question(const QString &, const QString &) override { return true; }
     void alert(const QString &) override {}
     bool open(const QString &) override { return true; }
+};
+
+struct FixedClock : Clock {
+    QDate today() const override { return {2026, 3, 2}; }
 };
 
 void tell(Messages &messages, const Result &result)
@@ -55,13 +60,16 @@ int main(int argc, char *argv[])
     const QString folder = arguments[1];
     QDir().mkpath(folder);
 
-    const QTemporaryDir place;
-    qputenv("HOME", QFile::encodeName(place.path()));
-    SettingsStore settings(place.filePath(u"settings"_s));
-    const Clock clock;
+    const QString home = QDir::tempPath() + u"/zelvantor-guide"_s; // shows in paths
+    QLockFile alone(home + u".lock"_s);
+    alone.lock(); // another run has the same home
+    QDir(home).removeRecursively();
+    qputenv("HOME", QFile::encodeName(home));
+    SettingsStore settings(home + u"/.config/zelvantor"_s);
+    const FixedClock clock;
     Quiet quiet;
     FileDialogs files;
-    Session session(settings, clock, place.filePath(u"data"_s));
+    Session session(settings, clock, home + u"/.local/share/zelvantor"_s);
     DeskScreens screens(session);
     session.messages = &quiet;
     session.desktop = &quiet;
@@ -69,6 +77,13 @@ int main(int argc, char *argv[])
     session.screens = &screens;
     tell(quiet, ApplicationFolder::fill(ApplicationFolder::delivered(), session.applicationFolder));
     tell(quiet, ApplicationFolder::takeSampleSettings(session));
+    const QString sample = ApplicationFolder::sample(session.applicationFolder) + u"/pictures/"_s;
+    const QString pictures = home + u"/Images"_s;
+    for (const QString &path : {pictures, QString(home + u"/Documents"_s)})
+        QDir().mkpath(path);
+    for (const QString &name : QDir(sample).entryList({u"bol-*"_s, u"tasse*"_s, u"mug-*"_s, u"theiere*"_s}))
+        QFile::copy(sample + name, pictures + u'/' + name);
+    tell(quiet, session.saveSetting(u"PATHPHOTO"_s, pictures));
     session.readSettings();
     session.gsLogin = u"vendeur"_s;
     session.localisation.gsLangue = arguments.value(2, u"FR"_s);
@@ -77,5 +92,7 @@ int main(int argc, char *argv[])
     showAllWindows(session, [&folder](QWidget &window, const QString &name) {
         window.grab().save(folder + u'/' + name + u".png"_s);
     });
+    session.gCnn = Connection();
+    QDir(home).removeRecursively();
     return 0;
 }
