@@ -1,3 +1,4 @@
+#include "data/SchemaSteps.h"
 #include "platform/WholeFile.h"
 #include "shop/ShopCheck.h"
 #include "shop/ShopRun.h"
@@ -159,6 +160,10 @@ int run(const Arguments &arguments)
     }
     if (const Result opened = session.gCnn.open(connectionText(session.gsDbPath)); !opened) {
         say(stderr, u"Base de données %1 : %2"_s.arg(session.gsDbPath, opened.message()));
+        return unusable;
+    }
+    if (SchemaSteps::of(session.gCnn) > SchemaSteps::current()) {
+        say(stderr, u"Base de données %1 : écrite par une version plus récente du programme"_s.arg(session.gsDbPath));
         return unusable;
     }
     if (arguments.language && !isKnownLanguage(*arguments.language, session.gCnn)) {

@@ -40,11 +40,11 @@ Result SchemaSteps::carryForward(Connection &store)
     if (!action.begun())
         return action.begun();
     QStringList statements;
-    for (size_t step = size_t(number); step < steps().size(); ++step)
+    for (auto step = size_t(number); step < steps().size(); ++step)
         statements << steps()[step];
     statements << u"PRAGMA user_version = "_s + QString::number(current());
     for (const QString &statement : statements)
-        if (const Result done = store.execute(statement); !done) {
+        if (Result done = store.execute(statement); !done) {
             action.abandon();
             return done;
         }

@@ -59,7 +59,7 @@ Result written(QSettings &settings, const QByteArray &before)
     if (!isWhole(settings)) {
         if (before.isEmpty())
             QFile::remove(path);
-        else if (const Result restored = WholeFile::replace(path, before); !restored)
+        else if (Result restored = WholeFile::replace(path, before); !restored)
             return restored;
         return notWritten(path);
     }

@@ -238,12 +238,12 @@ std::shared_ptr<SQLite::Statement> Store::take(const QString &statement)
     return std::make_shared<SQLite::Statement>(*m_database, Dialect::toSqlite(statement).toStdString());
 }
 
-void Store::keep(const QString &statement, std::shared_ptr<SQLite::Statement> prepared)
+void Store::keep(const QString &statement, const std::shared_ptr<SQLite::Statement> &prepared)
 {
     if (m_kept.size() >= keptStatements)
         m_kept.clear();
     prepared->tryReset();
-    m_kept.insert(statement, std::move(prepared));
+    m_kept.insert(statement, prepared);
 }
 
 Reader::Reader(Store *store, QString statement) : m_store(store), m_text(std::move(statement)) {}
@@ -260,7 +260,7 @@ Reader::Reader(Reader &&other) noexcept = default;
 Reader::~Reader()
 {
     if (m_statement)
-        m_store->keep(m_text, std::move(m_statement));
+        m_store->keep(m_text, std::exchange(m_statement, nullptr));
 }
 
 bool Reader::next()
@@ -272,7 +272,7 @@ bool Reader::next()
         return true;
     if (code != SQLITE_DONE)
         m_result = {code, QString::fromUtf8(m_statement->getErrorMsg())};
-    m_store->keep(m_text, std::move(m_statement));
+    m_store->keep(m_text, std::exchange(m_statement, nullptr));
     return false;
 }
 

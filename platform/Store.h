@@ -87,7 +87,7 @@ private:
     friend class Reader;
     explicit Store(std::unique_ptr<SQLite::Database> database);
     std::shared_ptr<SQLite::Statement> take(const QString &statement);
-    void keep(const QString &statement, std::shared_ptr<SQLite::Statement> prepared);
+    void keep(const QString &statement, const std::shared_ptr<SQLite::Statement> &prepared);
 
     bool isBroken() const;
 

@@ -25,7 +25,7 @@ QString temporaryPath(const QString &path)
 
 std::filesystem::path native(const QString &path)
 {
-    return std::filesystem::path(path.toStdU16String());
+    return {path.toStdU16String()};
 }
 
 /// Renames the whole temporary file over the target, or leaves no trace of it.
