@@ -34,7 +34,18 @@ Result removed(const QString &path)
 
 void LocalBrowser::DoLocalRefresh(const QString &directory)
 {
-    const QString path = Panes::NormalizePath(directory, false);
+    const Result shown = showFolder(directory);
+    m_desk.view.showLocalDir(m_desk.localDir);
+    if (!shown)
+        m_desk.view.inform(shown.text());
+}
+
+/// A folder may bear a name that the rule for typed paths would cut.
+Result LocalBrowser::showFolder(const QString &directory)
+{
+    const bool isThere = !directory.isEmpty() && QDir(directory).exists();
+    m_desk.localDir = isThere ? directory : Panes::NormalizePath(directory, false);
+    const QString path = Panes::asFolder(m_desk.localDir, false);
     const QDir folder(path);
     const auto shown = QDir::Hidden | QDir::System | QDir::NoDotAndDotDot;
     PaneRows folders;
@@ -45,6 +56,9 @@ void LocalBrowser::DoLocalRefresh(const QString &directory)
         files.push_back(rowOf(entry, Panes::fileIcon(entry.fileName()), path));
     m_desk.localRows = Panes::sortedFolders(std::move(folders), std::move(files));
     m_desk.view.showLocal(m_desk.localRows);
+    return folder.exists() && folder.isReadable()
+               ? Result()
+               : Result(FtpError::LocalFile, u"This folder can't be read: "_s + path);
 }
 
 void LocalBrowser::sortBy(PaneColumn column)
@@ -59,17 +73,15 @@ QString LocalBrowser::parentOf(const QString &path)
     return cut < 0 ? path : path.first(cut + 1);
 }
 
-void LocalBrowser::LocalCdup(const QString &path)
+void LocalBrowser::LocalCdup()
 {
-    m_desk.localDir = parentOf(path);
-    m_desk.view.showLocalDir(m_desk.localDir);
-    DoLocalRefresh(m_desk.localDir);
+    DoLocalRefresh(parentOf(Panes::asFolder(m_desk.localDir, false)));
 }
 
 void LocalBrowser::NewLocalFolder()
 {
     const QString name = Panes::uniqueName(m_desk.localRows, u"New Folder"_s);
-    const QString directory = Panes::NormalizePath(m_desk.localDir, false);
+    const QString directory = Panes::asFolder(m_desk.localDir, false);
     if (!QDir(directory).mkdir(name))
         return;
     m_desk.localRows.push_back({name, u"FolderClose"_s, {}, {}, {}, directory + name});
@@ -79,8 +91,10 @@ void LocalBrowser::NewLocalFolder()
 
 bool LocalBrowser::rename(int row, const QString &newName)
 {
+    if (!Panes::at(m_desk.localRows, row))
+        return false;
     PaneRow &renamed = m_desk.localRows[size_t(row)];
-    const QString directory = Panes::NormalizePath(m_desk.localDir, false);
+    const QString directory = Panes::asFolder(m_desk.localDir, false);
     if (newName.isEmpty() || newName.contains(QDir::separator())
         || !QFile::rename(directory + renamed.text, directory + newName))
         return false;
@@ -89,7 +103,7 @@ bool LocalBrowser::rename(int row, const QString &newName)
     return true;
 }
 
-void LocalBrowser::DeleteLocal(const QString &directory, const std::vector<QueueItem> &queue)
+void LocalBrowser::DeleteLocal(std::vector<QueueItem> queue)
 {
     if (queue.empty())
         return;
@@ -103,8 +117,8 @@ void LocalBrowser::DeleteLocal(const QString &directory, const std::vector<Queue
     m_desk.commandsOff();
     view.EnableDirBoxes(false, false);
     for (const QueueItem &item : queue) {
-        const QString path = Panes::NormalizePath(directory, false) + item.Name;
-        const bool isFolder = Panes::isFolder({{}, item.Icon, {}, {}, {}, {}});
+        const QString path = Panes::asFolder(item.Path, false) + item.Name;
+        const bool isFolder = Panes::isFolder(item.Icon);
         m_desk.showFileInfo((isFolder ? u"Folder:"_s : u"File:"_s) + item.Name, isFolder ? QString() : item.Size);
         const Result deleted = removed(path);
         m_desk.showFileInfo({}, {});
@@ -125,5 +139,6 @@ void LocalBrowser::DeleteLocal(const QString &directory, const std::vector<Queue
 
 void LocalBrowser::ViewLocalFile(int row)
 {
-    m_desk.view.open(m_desk.localRows[size_t(row)].tag);
+    if (const PaneRow *file = Panes::at(m_desk.localRows, row))
+        m_desk.view.open(file->tag);
 }

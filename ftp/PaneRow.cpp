@@ -34,9 +34,9 @@ void sortAsText(PaneRows &rows, PaneColumn column, bool ascending)
 
 } // namespace
 
-bool Panes::isFolder(const PaneRow &row)
+bool Panes::isFolder(const QString &icon)
 {
-    return row.icon == u"FolderClose"_s || row.icon == u"FolderLink"_s || row.icon == u"Link"_s;
+    return icon == u"FolderClose"_s || icon == u"FolderLink"_s || icon == u"Link"_s;
 }
 
 PaneRow Panes::upRow()
@@ -50,11 +50,13 @@ QString Panes::NormalizePath(QString path, bool isRemote)
     const qsizetype last = path.indexOf(u']');
     if (first >= 0 && last > first)
         path.remove(first, last - first + 1);
-    path = path.trimmed();
+    return asFolder(path.trimmed(), isRemote);
+}
+
+QString Panes::asFolder(const QString &path, bool isRemote)
+{
     const QChar separator = isRemote ? QChar(u'/') : QDir::separator();
-    if (!path.endsWith(separator))
-        path += separator;
-    return path;
+    return path.endsWith(separator) ? path : path + separator;
 }
 
 QString Panes::fileIcon(const QString &name)
@@ -102,6 +104,11 @@ PaneRows Panes::sorted(PaneRows rows, PaneColumn column)
         return rows;
     sortAsText(rows, column, column == PaneColumn::Name || column == PaneColumn::Permission);
     return SortFoldersFirst(rows);
+}
+
+const PaneRow *Panes::at(const PaneRows &rows, int position)
+{
+    return position >= 0 && position < int(rows.size()) ? &rows[size_t(position)] : nullptr;
 }
 
 const PaneRow *Panes::find(const PaneRows &rows, const QString &text)

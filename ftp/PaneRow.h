@@ -19,10 +19,12 @@ enum class PaneColumn { Name, Size, Date, Permission };
 
 namespace Panes {
 
-bool isFolder(const PaneRow &row); ///< folder, opened link or link: what is worked as a tree
+bool isFolder(const QString &icon); ///< folder, opened link or link: what is worked as a tree
 PaneRow upRow();
-/// Cuts a volume label, trims and adds the separator of the side.
+/// A path that a person typed or chose: cuts a volume label, trims and adds the separator of the side.
 QString NormalizePath(QString path, bool isRemote);
+/// A path as it is, with the separator of the side behind it.
+QString asFolder(const QString &path, bool isRemote);
 /// The icon of a file by the last four characters of its name.
 QString fileIcon(const QString &name);
 /// The rows of a listing below a directory: the up row, the folders by name, then links and files as they came.
@@ -34,6 +36,8 @@ PaneRows SortFoldersFirst(const PaneRows &rows);
 PaneRows sorted(PaneRows rows, PaneColumn column);
 /// `name`, or with 0, 1, 2... behind it the first that no row bears.
 QString uniqueName(const PaneRows &rows, const QString &name);
+/// The row at that position, or nullptr.
+const PaneRow *at(const PaneRows &rows, int position);
 const PaneRow *find(const PaneRows &rows, const QString &text);
 /// "", "1000 B", "1.0 KB", "3.2 MB".
 QString FormatBytes(qint64 bytes);

@@ -1,7 +1,5 @@
 #include "ftp/RemoteBrowser.h"
 
-#include "ftp/RemoteListing.h"
-
 #include <QFile>
 
 #include <tuple>
@@ -60,7 +58,6 @@ void RemoteBrowser::login()
     }
     if (const Result asked = ftp.RestartSupported(m_desk.bRestartSupported); !asked)
         settings.RemoteDir = ftp.CurrentDirectory();
-    m_desk.sHomeDir = settings.RemoteDir;
     if (const Result shown = DoRemoteRefresh(ftp.CurrentDirectory()); !shown) {
         m_desk.ShowFtpError(shown);
         return;
@@ -87,8 +84,6 @@ Result RemoteBrowser::DoRemoteRefresh(const QString &directory)
         return {};
     m_desk.commandsOff();
     m_desk.SetFtpProperties();
-    m_desk.remoteDir = directory;
-    m_desk.view.showRemoteDir(directory);
     Result filled = FillRemoteList(directory);
     m_desk.commandsBack();
     return filled;
@@ -97,23 +92,40 @@ Result RemoteBrowser::DoRemoteRefresh(const QString &directory)
 Result RemoteBrowser::FillRemoteList(const QString &directory)
 {
     FtpSession &ftp = m_desk.Ftp1;
-    const QString wanted = Panes::NormalizePath(directory, true);
-    if (wanted != Panes::NormalizePath(ftp.CurrentDirectory(), true)) {
+    const QString wanted = Panes::asFolder(directory, true);
+    if (wanted != Panes::asFolder(ftp.CurrentDirectory(), true)) {
         if (Result changed = ftp.setCurrentDirectory(wanted); !changed)
             return changed;
     }
+    takeDirectory();
     ftp.Type = FtpSession::Ascii;
     QString text;
-    if (Result listed = ftp.List(text); !listed)
+    if (Result listed = ftp.List(text); !listed) {
+        showRows({});
         return listed;
+    }
     RemoteListing::Listing listing = RemoteListing::parse(text);
     if (listing.Status == RemoteListing::Listing::Unknown) {
         listing.entries.clear();
         ShowListFailure(listing.Text);
     }
-    m_desk.remoteRows = rowsOf(listing, wanted);
-    m_desk.view.showRemote(m_desk.remoteRows);
+    showRows(listing);
     return {};
+}
+
+/// The pane, its box and the directory to return to are always those of the session.
+void RemoteBrowser::takeDirectory()
+{
+    m_desk.remoteDir = m_desk.sHomeDir = m_desk.Ftp1.CurrentDirectory();
+    m_desk.view.showRemoteDir(m_desk.remoteDir);
+}
+
+void RemoteBrowser::showRows(const RemoteListing::Listing &listing)
+{
+    if (m_desk.Ftp1.State() != FtpSession::Connected)
+        return;
+    m_desk.remoteRows = rowsOf(listing, Panes::asFolder(m_desk.remoteDir, true));
+    m_desk.view.showRemote(m_desk.remoteRows);
 }
 
 void RemoteBrowser::ShowListFailure(const QString &text)
@@ -142,10 +154,7 @@ Result RemoteBrowser::RemoteCdup()
     FtpSession &ftp = m_desk.Ftp1;
     if (Result up = ftp.Cdup(); !up)
         return up;
-    Result filled = FillRemoteList(ftp.CurrentDirectory());
-    m_desk.remoteDir = ftp.CurrentDirectory();
-    m_desk.view.showRemoteDir(m_desk.remoteDir);
-    return filled;
+    return FillRemoteList(ftp.CurrentDirectory());
 }
 
 void RemoteBrowser::ChangeRemoteDir(const QString &directory)
@@ -153,24 +162,25 @@ void RemoteBrowser::ChangeRemoteDir(const QString &directory)
     m_desk.EnableCommands(false, false, false, false, true);
     m_desk.SetFtpProperties();
     // What fails here stands in the log; the pane stays where it is.
-    if (m_desk.Ftp1.setCurrentDirectory(directory)) {
-        m_desk.sHomeDir = m_desk.Ftp1.CurrentDirectory();
-        std::ignore = DoRemoteRefresh(m_desk.sHomeDir);
-    }
+    if (m_desk.Ftp1.setCurrentDirectory(directory))
+        std::ignore = DoRemoteRefresh(m_desk.Ftp1.CurrentDirectory());
     m_desk.commandsBack();
 }
 
 void RemoteBrowser::ProbeRemoteLink(int row)
 {
+    const PaneRow *link = Panes::at(m_desk.remoteRows, row);
+    if (!link)
+        return;
     m_desk.EnableCommands(false, false, false, false, true);
     m_desk.SetFtpProperties();
-    PaneRow &link = m_desk.remoteRows[size_t(row)];
-    const QString before = m_desk.Ftp1.CurrentDirectory();
-    if (m_desk.Ftp1.setCurrentDirectory(link.text)) {
-        link.icon = u"FolderLink"_s;
-        const QString &home = m_desk.sHomeDir;
-        std::ignore = m_desk.Ftp1.setCurrentDirectory(home.isEmpty() ? before : home);
-        m_desk.view.showRemote(m_desk.remoteRows);
+    if (m_desk.Ftp1.setCurrentDirectory(link->text)) {
+        if (!m_desk.Ftp1.setCurrentDirectory(m_desk.sHomeDir)) {
+            std::ignore = DoRemoteRefresh(m_desk.Ftp1.CurrentDirectory());
+        } else {
+            m_desk.remoteRows[size_t(row)].icon = u"FolderLink"_s;
+            m_desk.view.showRemote(m_desk.remoteRows);
+        }
     }
     m_desk.commandsBack();
 }
@@ -184,7 +194,7 @@ void RemoteBrowser::NewRemoteFolder()
     for (int suffix = 1; suffix <= mostSuffixes; ++suffix) {
         const Result done = m_desk.Ftp1.MakeDirectory(made);
         if (done) {
-            const QString directory = Panes::NormalizePath(m_desk.Ftp1.CurrentDirectory(), true);
+            const QString directory = Panes::asFolder(m_desk.remoteDir, true);
             m_desk.remoteRows.push_back({made, u"FolderClose"_s, {}, {}, {}, directory + made});
             m_desk.view.showRemote(m_desk.remoteRows);
             m_desk.view.editRemoteName(int(m_desk.remoteRows.size()) - 1);
@@ -200,16 +210,22 @@ void RemoteBrowser::NewRemoteFolder()
 
 bool RemoteBrowser::rename(int row, const QString &newName)
 {
-    PaneRow &renamed = m_desk.remoteRows[size_t(row)];
-    if (newName.isEmpty() || !m_desk.Ftp1.Rename(renamed.text, newName))
+    // Many servers would put the file in the place of the one that bears the name.
+    if (!Panes::at(m_desk.remoteRows, row) || newName.isEmpty() || Panes::find(m_desk.remoteRows, newName))
         return false;
-    renamed.tag = Panes::NormalizePath(m_desk.Ftp1.CurrentDirectory(), true) + newName;
+    const QString oldName = m_desk.remoteRows[size_t(row)].text;
+    if (!m_desk.Ftp1.Rename(oldName, newName) || !Panes::at(m_desk.remoteRows, row))
+        return false;
+    PaneRow &renamed = m_desk.remoteRows[size_t(row)];
+    renamed.tag = Panes::asFolder(m_desk.remoteDir, true) + newName;
     renamed.text = newName;
     return true;
 }
 
 void RemoteBrowser::ViewRemoteFile(int row)
 {
+    if (!Panes::at(m_desk.remoteRows, row))
+        return;
     const PaneRow file = m_desk.remoteRows[size_t(row)];
     m_desk.setBarMaximum(file.size.toLongLong());
     m_desk.transfer.nLocalSize = 0;
@@ -225,7 +241,7 @@ void RemoteBrowser::ViewRemoteFile(int row)
     m_desk.commandsBack();
 }
 
-void RemoteBrowser::DeleteRemote(const QString &directory, const std::vector<QueueItem> &queue)
+void RemoteBrowser::DeleteRemote(QString directory, std::vector<QueueItem> queue)
 {
     if (queue.empty())
         return;
@@ -240,8 +256,8 @@ void RemoteBrowser::DeleteRemote(const QString &directory, const std::vector<Que
     view.EnableDirBoxes(false, false);
     for (const QueueItem &item : queue) {
         m_desk.commandsOff();
-        const QString path = Panes::NormalizePath(directory, true) + item.Name;
-        const bool isFolder = Panes::isFolder({{}, item.Icon, {}, {}, {}, {}});
+        const QString path = Panes::asFolder(directory, true) + item.Name;
+        const bool isFolder = Panes::isFolder(item.Icon);
         m_desk.showFileInfo((isFolder ? u"Folder:"_s : u"File:"_s) + item.Name, isFolder ? QString() : item.Size);
         const Result deleted = isFolder ? DeleteRemoteTree(directory, path) : m_desk.Ftp1.Delete(path);
         if (isFolder)
@@ -257,8 +273,6 @@ void RemoteBrowser::DeleteRemote(const QString &directory, const std::vector<Que
     }
     view.EnableDirBoxes(true, true);
     m_desk.commandsBack();
-    m_desk.remoteDir = directory;
-    view.showRemoteDir(directory);
 }
 
 /// Links are passed over, so that a folder that holds one stays; what is deleted is what the folder itself holds.
@@ -288,7 +302,7 @@ Result RemoteBrowser::DeleteRemoteTree(const QString &start, const QString &path
             if (!listed || entry.Type == u"L"_s || entry.Name.contains(u'/') || entry.Name == u"."_s
                 || entry.Name == u".."_s)
                 continue;
-            const QString inside = Panes::NormalizePath(folder.path, true) + entry.Name;
+            const QString inside = Panes::asFolder(folder.path, true) + entry.Name;
             if (entry.Type == u"d"_s && folder.depth < deepest)
                 open.push_back({inside, folder.depth + 1});
             else if (const Result deleted = ftp.Delete(inside); isOver(deleted))

@@ -1,5 +1,6 @@
 #pragma once
 #include "ftp/FtpDesk.h"
+#include "ftp/RemoteListing.h"
 
 /// Session and remote pane of the FTP window, without its widgets. Nothing here tests `Busy`: the window refuses
 /// commands while it is true.
@@ -25,10 +26,12 @@ public:
     bool rename(int row, const QString &newName);
     void ViewRemoteFile(int row);
     /// Deletes what is queued from the remote pane.
-    void DeleteRemote(const QString &directory, const std::vector<QueueItem> &queue);
+    void DeleteRemote(QString directory, std::vector<QueueItem> queue);
 
 private:
     Result DeleteRemoteTree(const QString &start, const QString &path);
+    void takeDirectory();
+    void showRows(const RemoteListing::Listing &listing);
     void ShowListFailure(const QString &text);
 
     FtpDesk &m_desk;

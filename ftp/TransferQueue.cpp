@@ -13,7 +13,7 @@ namespace {
 
 bool isFolder(const QueueItem &item)
 {
-    return Panes::isFolder({{}, item.Icon, {}, {}, {}, {}});
+    return Panes::isFolder(item.Icon);
 }
 
 QString pattern(const QString &folder, QChar separator)
@@ -57,8 +57,8 @@ const PaneRow *TransferQueue::RemoteItem(const QueueItem &item) const
 void TransferQueue::takeNames(const QString &remoteDir, const QString &localDir, const QueueItem &item)
 {
     TransferVariables &transfer = m_desk.transfer;
-    transfer.sRemoteDir = Panes::NormalizePath(remoteDir, true);
-    transfer.sLocalDir = Panes::NormalizePath(localDir, false);
+    transfer.sRemoteDir = Panes::asFolder(remoteDir, true);
+    transfer.sLocalDir = Panes::asFolder(localDir, false);
     transfer.sRemoteName = transfer.sLocalName = item.Name;
 }
 
@@ -82,19 +82,19 @@ void TransferQueue::AddStatusRow(const QString &status, const QString &local, co
     m_desk.view.AddStatusRow({status, local, size, direction, remote, m_desk.settings.RemoteHost});
 }
 
-void TransferQueue::StoreQueue(const QString &targetDirectory)
+void TransferQueue::StoreQueue(QString targetDirectory)
 {
     m_desk.view.EnableDirBoxes(false, false);
     m_desk.bTransferring = true;
     m_desk.transfer.nApplyAll = 0;
     m_desk.transfer.bStoring = true;
-    const QString target = Panes::NormalizePath(targetDirectory, true);
+    const QString target = Panes::asFolder(targetDirectory, true);
     Result reached;
-    if (target != Panes::NormalizePath(m_desk.Ftp1.CurrentDirectory(), true))
+    if (target != Panes::asFolder(m_desk.Ftp1.CurrentDirectory(), true))
         reached = m_remote.DoRemoteRefresh(targetDirectory);
     if (!reached) {
         const QueueItem item = m_items.empty() ? QueueItem() : m_items.front();
-        AddStatusRow(u"Error"_s, Panes::NormalizePath(item.Path, false) + item.Name, item.Size, target + item.Name);
+        AddStatusRow(u"Error"_s, Panes::asFolder(item.Path, false) + item.Name, item.Size, target + item.Name);
         m_desk.view.AppendLog(reached.text() + u"\r\n");
     }
     for (const QueueItem &item : m_items) {
@@ -113,7 +113,7 @@ void TransferQueue::StoreQueue(const QString &targetDirectory)
     cleanUp(true);
 }
 
-void TransferQueue::RetrieveQueue(const QString &targetDirectory)
+void TransferQueue::RetrieveQueue(QString targetDirectory)
 {
     m_desk.view.EnableDirBoxes(false, false);
     m_desk.bTransferring = true;
@@ -135,8 +135,6 @@ void TransferQueue::RetrieveQueue(const QString &targetDirectory)
         }
     }
     m_desk.bTransferring = false;
-    m_desk.localDir = targetDirectory;
-    m_desk.view.showLocalDir(targetDirectory);
     m_local.DoLocalRefresh(targetDirectory);
     m_desk.transfer.bCancel = false;
     m_desk.view.forgetDropTarget();

@@ -16,8 +16,9 @@ public:
     const std::vector<QueueItem> &items() const { return m_items; }
     void UnmarkQueue(bool isLocalPane);
 
-    void StoreQueue(const QString &targetDirectory);
-    void RetrieveQueue(const QString &targetDirectory);
+    // The names are copies: what they come from changes while the window shows other folders.
+    void StoreQueue(QString targetDirectory);
+    void RetrieveQueue(QString targetDirectory);
 
 private:
     void queueSelection(const PaneRows &rows, const QString &directory, const std::vector<int> &selected);

@@ -11,8 +11,11 @@
 
 #include <QApplication>
 #include <QDir>
+#include <QLineEdit>
 #include <QMenu>
 #include <QStorageInfo>
+
+#include <tuple>
 
 using namespace Qt::StringLiterals;
 
@@ -29,6 +32,7 @@ frmFTP::frmFTP(Session &screenSession, QWidget *parent, std::unique_ptr<FtpSessi
     setWindowTitle(FtpSettings::application);
     wireCommands();
     wirePanes();
+    wireDirectories();
     m_desk.listen();
     m_desk.Ftp1.onCertificate = [this](const FtpCertificate &certificate) { return decideCertificate(certificate); };
     load();
@@ -63,9 +67,9 @@ void frmFTP::load()
     for (const QStorageInfo &volume : QStorageInfo::mountedVolumes())
         if (volume.isReady() && !volume.isReadOnly())
             m_ui->cmbLocalDir->addItem(Panes::NormalizePath(volume.rootPath(), false));
-    const QString temporary = session().applicationFolder + QDir::separator() + u"temp"_s;
-    showLocalDir(temporary);
-    m_local.DoLocalRefresh(temporary);
+    // A shop that was never generated has no such folder yet.
+    std::ignore = m_local.showFolder(session().applicationFolder + QDir::separator() + u"temp"_s);
+    showLocalDir(m_desk.localDir);
     m_ui->cmdAbort->setEnabled(false);
     m_ui->lvwLocal->setFocus();
     UpdateCommands();
@@ -181,15 +185,40 @@ void frmFTP::wirePanes()
     m_ui->lvwStatus->header()->resizeSection(4, 300);
     QObject::connect(m_ui->lvwStatus->header(), &QHeaderView::sectionClicked, this,
                      [this](int column) { m_ui->lvwStatus->sortItems(column, Qt::AscendingOrder); });
-    QObject::connect(m_ui->cmbLocalDir, &QComboBox::textActivated, this,
-                     [this](const QString &directory) { m_local.DoLocalRefresh(directory); });
-    QObject::connect(m_ui->cmbRemoteDir, &QComboBox::textActivated, this, [this](const QString &directory) {
-        if (isConnected())
-            run([this, directory] {
-                if (const Result filled = m_remote.FillRemoteList(directory); !filled)
-                    m_desk.ShowFtpError(filled);
-            });
+}
+
+void frmFTP::wireDirectories()
+{
+    const auto onChoice = [this](QComboBox *box, void (frmFTP::*choose)(const QString &)) {
+        box->setCompleter(nullptr); // it would put a folder into the box that nobody chose
+        box->setInsertPolicy(QComboBox::NoInsert);
+        const auto chosen = [this, choose](const QString &directory) {
+            run([this, choose, directory] { (this->*choose)(directory); });
+        };
+        QObject::connect(box, &QComboBox::textActivated, this, chosen);
+        QObject::connect(box->lineEdit(), &QLineEdit::returnPressed, this,
+                         [box, chosen] { chosen(box->currentText()); });
+    };
+    onChoice(m_ui->cmbLocalDir, &frmFTP::chooseLocal);
+    onChoice(m_ui->cmbRemoteDir, &frmFTP::chooseRemote);
+    QObject::connect(m_ui->cmbLocalDir->lineEdit(), &QLineEdit::textEdited, this, [this](const QString &directory) {
+        run([this, directory] { std::ignore = m_local.showFolder(directory); });
     });
+}
+
+void frmFTP::chooseLocal(const QString &directory)
+{
+    m_local.DoLocalRefresh(directory);
+    addToHistory(*m_ui->cmbLocalDir, m_desk.localDir);
+}
+
+void frmFTP::chooseRemote(const QString &directory)
+{
+    if (!isConnected())
+        return;
+    if (const Result filled = m_remote.FillRemoteList(Panes::NormalizePath(directory, true)); !filled)
+        m_desk.ShowFtpError(filled);
+    addToHistory(*m_ui->cmbRemoteDir, m_desk.remoteDir);
 }
 
 void frmFTP::run(const std::function<void()> &command)
@@ -264,12 +293,12 @@ void frmFTP::remove()
     byFocus(
         [this] {
             queue(*m_ui->lvwRemote);
-            m_remote.DeleteRemote(m_ui->cmbRemoteDir->currentText(), m_queue.items());
+            m_remote.DeleteRemote(m_desk.remoteDir, m_queue.items());
             m_queue.UnmarkQueue(false);
         },
         [this] {
             queue(*m_ui->lvwLocal);
-            m_local.DeleteLocal(m_ui->cmbLocalDir->currentText(), m_queue.items());
+            m_local.DeleteLocal(m_queue.items());
             m_queue.UnmarkQueue(true);
         });
 }
@@ -281,7 +310,7 @@ void frmFTP::refresh()
             if (const Result done = m_remote.DoRemoteRefresh(m_desk.Ftp1.CurrentDirectory()); !done)
                 m_desk.ShowFtpError(done);
         },
-        [this] { m_local.DoLocalRefresh(m_ui->cmbLocalDir->currentText()); });
+        [this] { m_local.DoLocalRefresh(m_desk.localDir); });
 }
 
 void frmFTP::rename()

@@ -30,6 +30,9 @@ private:
     void load();
     void wireCommands();
     void wirePanes();
+    void wireDirectories();
+    void chooseLocal(const QString &directory);
+    void chooseRemote(const QString &directory);
     void giveTips();
     /// Runs a command unless another is running, and closes the window afterwards when that was asked meanwhile.
     void run(const std::function<void()> &command);
@@ -55,6 +58,7 @@ private:
     void UpdateLocalCommands();
     void updatePaneCommands(bool sessionCommands, const FtpPane &pane, const PaneRows &rows);
     static void addToHistory(QComboBox &box, const QString &directory);
+    static void showDirectory(QComboBox &box, const QString &directory);
 
     // FtpView
     void EnableCommands(bool login, bool logout, bool options, bool actions, bool toolbar) override;

@@ -24,33 +24,32 @@ void frmFTP::queue(FtpPane &pane)
 {
     const std::vector<int> rows = pane.selectedRows();
     if (&pane == m_ui->lvwLocal)
-        m_queue.QueueLocalSelection(m_ui->cmbLocalDir->currentText(), rows);
+        m_queue.QueueLocalSelection(m_desk.localDir, rows);
     else
-        m_queue.QueueRemoteSelection(m_ui->cmbRemoteDir->currentText(), rows);
+        m_queue.QueueRemoteSelection(m_desk.remoteDir, rows);
     for (const int row : rows)
         pane.mark(row, true);
 }
 
 void frmFTP::openLocal(int row)
 {
-    if (row < 0 || row >= int(m_desk.localRows.size()))
+    if (!Panes::at(m_desk.localRows, row))
         return;
     const PaneRow chosen = m_desk.localRows[size_t(row)];
-    const QString directory = Panes::NormalizePath(m_ui->cmbLocalDir->currentText(), false);
     if (chosen.icon == u"Cdup"_s) {
-        m_local.LocalCdup(directory);
+        m_local.LocalCdup();
     } else if (isOpenedFolder(chosen.icon)) {
-        m_local.DoLocalRefresh(chosen.icon == u"FolderLink"_s ? chosen.tag : QString(directory + chosen.text));
+        m_local.DoLocalRefresh(chosen.tag);
     } else if (isConnected()) {
         queue(*m_ui->lvwLocal);
-        m_queue.StoreQueue(m_ui->cmbRemoteDir->currentText());
+        m_queue.StoreQueue(m_desk.remoteDir);
     }
     addToHistory(*m_ui->cmbLocalDir, m_desk.localDir);
 }
 
 void frmFTP::openRemote(int row)
 {
-    if (!isConnected() || row < 0 || row >= int(m_desk.remoteRows.size()))
+    if (!isConnected() || !Panes::at(m_desk.remoteRows, row))
         return;
     const PaneRow chosen = m_desk.remoteRows[size_t(row)];
     if (chosen.icon == u"Cdup"_s) {
@@ -62,7 +61,7 @@ void frmFTP::openRemote(int row)
         m_remote.ProbeRemoteLink(row);
     } else {
         queue(*m_ui->lvwRemote);
-        m_queue.RetrieveQueue(m_ui->cmbLocalDir->currentText());
+        m_queue.RetrieveQueue(m_desk.localDir);
     }
     addToHistory(*m_ui->cmbRemoteDir, m_desk.remoteDir);
 }
@@ -76,10 +75,9 @@ void frmFTP::dropped(FtpPane &target, FtpPane *source)
         return;
     }
     const PaneRows &rows = store ? m_desk.remoteRows : m_desk.localRows;
-    QString directory =
-        Panes::NormalizePath(store ? m_ui->cmbRemoteDir->currentText() : m_ui->cmbLocalDir->currentText(), store);
-    if (const int row = target.dropRow(); row >= 0 && row < int(rows.size()) && Panes::isFolder(rows[size_t(row)]))
-        directory += rows[size_t(row)].text;
+    QString directory = Panes::asFolder(store ? m_desk.remoteDir : m_desk.localDir, store);
+    if (const PaneRow *folder = Panes::at(rows, target.dropRow()); folder && Panes::isFolder(folder->icon))
+        directory += folder->text;
     const QString count = QString::number(m_queue.items().size());
     const bool go = (store || isConnected()) && (!store || isConnected()) && !m_queue.items().empty()
                     && confirm((store ? u"Store "_s : u"Retrieve "_s) + count + u" selected Files or Folders?"_s,
@@ -126,7 +124,7 @@ void frmFTP::updatePaneCommands(bool paneCommands, const FtpPane &pane, const Pa
     for (QAction *action : {m_ui->mnuRename, m_ui->mnuDelete, m_ui->RenameFile, m_ui->DeleteFiles})
         action->setEnabled(paneCommands && named);
     for (QAction *action : {m_ui->mnuView, m_ui->ViewFile})
-        action->setEnabled(paneCommands && named && !Panes::isFolder(rows[size_t(row)]));
+        action->setEnabled(paneCommands && named && !Panes::isFolder(rows[size_t(row)].icon));
     if (m_focus == Focus::Status) {
         m_ui->mnuDelete->setEnabled(true);
         m_ui->DeleteFiles->setEnabled(true);
@@ -139,6 +137,13 @@ void frmFTP::addToHistory(QComboBox &box, const QString &directory)
         return;
     if (box.findText(directory, Qt::MatchExactly | Qt::MatchCaseSensitive) < 0)
         box.addItem(directory);
+    showDirectory(box, directory);
+}
+
+/// The index goes along, or the box would choose the text again when it loses the focus.
+void frmFTP::showDirectory(QComboBox &box, const QString &directory)
+{
+    box.setCurrentIndex(box.findText(directory, Qt::MatchExactly | Qt::MatchCaseSensitive));
     box.setEditText(directory);
 }
 
@@ -179,28 +184,30 @@ void frmFTP::AppendLog(const QString &text)
 void frmFTP::showLocal(const PaneRows &rows)
 {
     m_ui->lvwLocal->showRows(rows);
+    UpdateCommands();
 }
 
 void frmFTP::showRemote(const PaneRows &rows)
 {
     m_ui->lvwRemote->showRows(rows);
+    UpdateCommands();
 }
 
 void frmFTP::showLocalDir(const QString &directory)
 {
-    m_ui->cmbLocalDir->setEditText(directory);
+    showDirectory(*m_ui->cmbLocalDir, directory);
 }
 
 void frmFTP::showRemoteDir(const QString &directory)
 {
-    m_ui->cmbRemoteDir->setEditText(directory);
+    showDirectory(*m_ui->cmbRemoteDir, directory);
 }
 
 void frmFTP::forgetRemoteDir(const QString &directory)
 {
-    const QString normalized = Panes::NormalizePath(directory, true);
+    const QString folder = Panes::asFolder(directory, true);
     for (int i = m_ui->cmbRemoteDir->count() - 1; i >= 0; --i)
-        if (Panes::NormalizePath(m_ui->cmbRemoteDir->itemText(i), true) == normalized)
+        if (Panes::asFolder(m_ui->cmbRemoteDir->itemText(i), true) == folder)
             m_ui->cmbRemoteDir->removeItem(i);
 }
 

@@ -29,7 +29,6 @@ struct Desk {
         remote.login();
         QDir(folder.path()).mkdir(u"local"_s);
         local.DoLocalRefresh(path(u"local"_s));
-        desk.localDir = path(u"local"_s);
     }
 
     QString path(const QString &name) const { return folder.filePath(name); }
@@ -202,7 +201,7 @@ void TransferQueueTest::folders()
     desk.view.decide = [&] { Conflict::opened(desk.desk.transfer); };
     desk.retrieve({u"my shop"_s});
     QVERIFY(desk.statusRows().isEmpty() && desk.view.conflicts == 1);
-    desk.local.DeleteLocal(desk.desk.localDir, {{u"my shop"_s, desk.desk.localDir, u"FolderClose"_s, {}, 1}});
+    desk.local.DeleteLocal({{u"my shop"_s, desk.desk.localDir, u"FolderClose"_s, {}, 1}});
     QVERIFY(!QFile::exists(shop) && desk.statusRows().startsWith(u"Delete "_s));
     desk.retrieve({u"my shop"_s});
     QCOMPARE(desk.statusRows(), u"Download <--my shop"_s);
@@ -230,7 +229,6 @@ void TransferQueueTest::browsing()
     const QString home = desk.home();
     QCOMPARE(desk.view.caption, u"ZELVANTORFTP (Connected to: 127.0.0.1)"_s);
     QVERIFY(desk.view.log.startsWith(u"Connecting ...\r\n"_s) && !desk.view.log.contains(RealServer::password));
-    desk.desk.sHomeDir = home;
     const int link = Desk::row(desk.desk.remoteRows, u"now"_s);
     desk.remote.ProbeRemoteLink(link);
     QCOMPARE(desk.desk.remoteRows[size_t(link)].icon, u"FolderLink"_s);

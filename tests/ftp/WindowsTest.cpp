@@ -1,9 +1,5 @@
-#include "ftp/FtpPane.h"
 #include "ftp/frmCertificate.h"
-#include "ftp/frmFTP.h"
-#include "tests/desk/Desk.h"
-#include "tests/ftp/MemorySession.h"
-#include "tests/support/Files.h"
+#include "tests/ftp/OpenedWindow.h"
 #include "tests/support/Suite.h"
 
 #include <QAction>
@@ -17,73 +13,6 @@
 #include <QToolButton>
 
 using namespace Qt::StringLiterals;
-
-namespace {
-
-/// The FTP window over a small shop and a server in memory.
-class FtpDeskTest : public Desk {
-public:
-    FtpDeskTest()
-    {
-        openSample();
-        QDir().mkpath(path(u"data/temp/images"_s));
-        Files::write(path(u"data/temp/index.htm"_s), "page");
-        Files::write(path(u"data/temp/panier.txt"_s), "0123456789");
-        Files::write(path(u"data/temp/images/a.gif"_s), "gif");
-    }
-    std::unique_ptr<frmFTP> open()
-    {
-        auto server = std::make_unique<MemorySession>();
-        session0 = server.get();
-        server->files = {{u"/www/"_s, {}}, {u"/www/old.txt"_s, "old"}, {u"/index.htm"_s, "1234567"}};
-        auto window = std::make_unique<frmFTP>(session, nullptr, std::move(server));
-        window->show();
-        if (!QTest::qWaitForWindowActive(window.get()))
-            qFatal("the window can't be active");
-        return window;
-    }
-    void connectTo(QWidget &window)
-    {
-        Visitor visitor;
-        visitor.whenShown(u"frmConnect"_s, [](QWidget &dialog) {
-            control<QLineEdit>(dialog, "txtRemoteHost").setText(u"ftp.example"_s);
-            control<QLineEdit>(dialog, "txtUserName").setText(u"anne"_s);
-            control<QLineEdit>(dialog, "txtPassword").setText(u"secret-word"_s);
-            control<QPushButton>(dialog, "cmdOK").click();
-        });
-        control<QAction>(window, "connect").trigger();
-        QCOMPARE(visitor.waiting(), QStringList());
-        window.activateWindow();
-        QVERIFY(QTest::qWaitForWindowActive(&window));
-    }
-    MemorySession *session0 = nullptr;
-};
-
-FtpPane &pane(QWidget &window, const char *name)
-{
-    return control<FtpPane>(window, name);
-}
-
-QStringList names(QTreeWidget &list)
-{
-    QStringList texts;
-    for (int i = 0; i < list.topLevelItemCount(); ++i)
-        texts << list.topLevelItem(i)->text(0);
-    return texts;
-}
-
-void select(FtpPane &list, const QStringList &wanted)
-{
-    list.setFocus();
-    list.clearSelection();
-    for (const QString &name : wanted)
-        for (QTreeWidgetItem *item : list.findItems(name, Qt::MatchExactly)) {
-            list.setCurrentItem(item, 0, QItemSelectionModel::NoUpdate);
-            item->setSelected(true);
-        }
-}
-
-} // namespace
 
 class FtpWindowsTest : public QObject {
     Q_OBJECT
