@@ -61,8 +61,6 @@ public:
     virtual void editRemoteName(int row) = 0;
     /// The row of a queued item loses its mark. Rows may have moved since.
     virtual void unmark(bool isLocalPane, const QueueItem &item) = 0;
-    /// Enters the folder that a drop was aimed at.
-    virtual void FollowDropTarget() = 0;
     virtual void forgetDropTarget() = 0;
 
     virtual void showFileInfo(const QString &name, const QString &size) = 0; ///< both empty at the end

@@ -7,6 +7,7 @@
 #include <QHeaderView>
 #include <QKeyEvent>
 #include <QMimeData>
+#include <QSignalBlocker>
 
 #include <algorithm>
 
@@ -56,12 +57,15 @@ void FtpPane::showRows(const PaneRows &rows)
         auto *item = new QTreeWidgetItem({row.text, row.size, row.date, row.permission});
         item->setIcon(nameColumn, iconOf(row.icon));
         item->setTextAlignment(1, Qt::AlignRight | Qt::AlignVCenter);
+        item->setFlags(Qt::ItemIsSelectable | Qt::ItemIsEnabled | Qt::ItemIsDragEnabled);
         if (!row.text.isEmpty())
             item->setFlags(item->flags() | Qt::ItemIsEditable);
+        if (Panes::isFolder(row.icon))
+            item->setFlags(item->flags() | Qt::ItemIsDropEnabled);
         items << item;
     }
     m_nameBeforeEdit.clear();
-    m_dropRow = -1;
+    forgetDropRow();
     clear();
     addTopLevelItems(items);
 }
@@ -91,15 +95,23 @@ void FtpPane::editName(int row)
     editItem(item, nameColumn);
 }
 
+void FtpPane::selectAll()
+{
+    QTreeWidget::selectAll();
+    if (QTreeWidgetItem *up = topLevelItem(0); up && up->text(nameColumn).isEmpty())
+        up->setSelected(false);
+    if (currentRow() < 1 && topLevelItemCount() > 1)
+        setCurrentItem(topLevelItem(1), nameColumn, QItemSelectionModel::NoUpdate);
+}
+
 void FtpPane::mark(int row, bool queued)
 {
     QTreeWidgetItem *item = topLevelItem(row);
     if (!item)
         return;
-    const QString before = std::exchange(m_nameBeforeEdit, QString());
+    const QSignalBlocker noEdit(this);
     for (int column = 0; column < columnCount(); ++column)
         item->setForeground(column, queued ? QBrush(QColor(0, 0, 255)) : QBrush());
-    m_nameBeforeEdit = before;
 }
 
 void FtpPane::keyPressEvent(QKeyEvent *event)
@@ -108,9 +120,18 @@ void FtpPane::keyPressEvent(QKeyEvent *event)
     if (state() == QAbstractItemView::EditingState || !(enter || event->key() == Qt::Key_Delete))
         QTreeWidget::keyPressEvent(event);
     else if (enter && currentRow() >= 0)
-        Q_EMIT rowOpened(currentRow());
+        Q_EMIT rowEntered(currentRow());
     else if (event->key() == Qt::Key_Delete)
         Q_EMIT deletePressed();
+}
+
+/// With Ctrl the right button belongs to the window.
+void FtpPane::mousePressEvent(QMouseEvent *event)
+{
+    if (event->button() == Qt::RightButton && event->modifiers() == Qt::ControlModifier)
+        event->ignore();
+    else
+        QTreeWidget::mousePressEvent(event);
 }
 
 void FtpPane::mouseReleaseEvent(QMouseEvent *event)
@@ -118,6 +139,14 @@ void FtpPane::mouseReleaseEvent(QMouseEvent *event)
     QTreeWidget::mouseReleaseEvent(event);
     if (event->button() == Qt::RightButton && event->modifiers() == Qt::NoModifier)
         Q_EMIT menuWanted(event->globalPosition().toPoint());
+}
+
+/// Some desktops ask at the press of the button. The menu comes with its release, or from its own key.
+void FtpPane::contextMenuEvent(QContextMenuEvent *event)
+{
+    event->accept();
+    if (event->reason() == QContextMenuEvent::Keyboard)
+        Q_EMIT menuWanted(event->globalPos());
 }
 
 /// The rows themselves stay where they are; what is dragged is the queue.
@@ -140,24 +169,42 @@ void FtpPane::dragEnterEvent(QDragEnterEvent *event)
 
 void FtpPane::dragMoveEvent(QDragMoveEvent *event)
 {
-    m_dropRow = rowAt(event->position().toPoint());
-    if (QTreeWidgetItem *item = topLevelItem(m_dropRow); item && event->source() != this)
-        setCurrentItem(item, nameColumn, QItemSelectionModel::NoUpdate);
+    if (event->source() != this)
+        aimAt(event->position().toPoint());
     event->acceptProposedAction();
+}
+
+void FtpPane::dragLeaveEvent(QDragLeaveEvent *)
+{
+    forgetDropRow();
 }
 
 void FtpPane::dropEvent(QDropEvent *event)
 {
-    m_dropRow = rowAt(event->position().toPoint());
     event->acceptProposedAction();
     auto *source = qobject_cast<FtpPane *>(event->source());
+    if (source != this)
+        aimAt(event->position().toPoint());
     // The drag must be over before a long transfer begins.
     QMetaObject::invokeMethod(
         this, [this, source] { Q_EMIT rowsDropped(source); }, Qt::QueuedConnection);
 }
 
-int FtpPane::rowAt(const QPoint &place) const
+void FtpPane::aimAt(const QPoint &place)
 {
     QTreeWidgetItem *item = itemAt(place);
-    return item ? indexOfTopLevelItem(item) : -1;
+    setDropRow(item && (item->flags() & Qt::ItemIsDropEnabled) ? indexOfTopLevelItem(item) : -1);
+}
+
+void FtpPane::setDropRow(int row)
+{
+    const QSignalBlocker noEdit(this);
+    const auto paint = [this](const QBrush &brush) {
+        QTreeWidgetItem *item = topLevelItem(m_dropRow);
+        for (int column = 0; item && column < columnCount(); ++column)
+            item->setBackground(column, brush);
+    };
+    paint({});
+    m_dropRow = row;
+    paint(palette().color(QPalette::Highlight).lighter(150));
 }

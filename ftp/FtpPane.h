@@ -17,12 +17,15 @@ public:
     void editName(int row);
     /// Blue and faint while the row waits in the queue.
     void mark(int row, bool queued);
-    /// The row that a drop was aimed at, -1 for the pane itself.
+    /// The folder or link that a drag is over or was dropped on, -1 for the pane itself.
     int dropRow() const { return m_dropRow; }
-    void forgetDropRow() { m_dropRow = -1; }
+    void forgetDropRow() { setDropRow(-1); }
+    /// The up row stays out of it, and is not left current: no command of a selection means it.
+    void selectAll() override;
 
 Q_SIGNALS:
-    void rowOpened(int row); ///< double click or Enter
+    void rowOpened(int row);  ///< double click
+    void rowEntered(int row); ///< Enter
     void deletePressed();
     void nameEdited(int row, const QString &oldName, const QString &newName);
     void dragBegun();
@@ -32,14 +35,18 @@ Q_SIGNALS:
 
 protected:
     void keyPressEvent(QKeyEvent *event) override;
+    void mousePressEvent(QMouseEvent *event) override;
     void mouseReleaseEvent(QMouseEvent *event) override;
+    void contextMenuEvent(QContextMenuEvent *event) override;
     void startDrag(Qt::DropActions actions) override;
     void dragEnterEvent(QDragEnterEvent *event) override;
     void dragMoveEvent(QDragMoveEvent *event) override;
+    void dragLeaveEvent(QDragLeaveEvent *event) override;
     void dropEvent(QDropEvent *event) override;
 
 private:
-    int rowAt(const QPoint &place) const;
+    void setDropRow(int row);
+    void aimAt(const QPoint &place);
 
     QString m_nameBeforeEdit;
     int m_dropRow = -1;

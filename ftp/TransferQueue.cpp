@@ -97,7 +97,7 @@ void TransferQueue::StoreQueue(QString targetDirectory)
         AddStatusRow(u"Error"_s, Panes::asFolder(item.Path, false) + item.Name, item.Size, target + item.Name);
         m_desk.view.AppendLog(reached.text() + u"\r\n");
     }
-    for (const QueueItem &item : m_items) {
+    for (const std::vector<QueueItem> items = m_items; const QueueItem &item : items) {
         if (!reached || item.Path.isEmpty())
             continue;
         m_desk.commandsOff();
@@ -118,7 +118,7 @@ void TransferQueue::RetrieveQueue(QString targetDirectory)
     m_desk.view.EnableDirBoxes(false, false);
     m_desk.bTransferring = true;
     m_desk.transfer.nApplyAll = 0;
-    for (const QueueItem &item : m_items) {
+    for (const std::vector<QueueItem> items = m_items; const QueueItem &item : items) {
         if (item.Path.isEmpty())
             continue;
         m_desk.commandsOff();
@@ -185,7 +185,6 @@ void TransferQueue::StoreFolderItem(const QString &target, const QueueItem &item
 {
     FtpSession &ftp = m_desk.Ftp1;
     TransferVariables &transfer = m_desk.transfer;
-    m_desk.view.FollowDropTarget();
     takeNames(target, item.Path, item);
     transfer.nRemoteSize = transfer.nLocalSize = 0;
     if (!transfer.bCancel && RemoteItem(item) && mayAsk())

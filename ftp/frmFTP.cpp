@@ -138,13 +138,16 @@ void frmFTP::wirePanes()
         FtpPane *pane;
         QToolButton *transfer;
         void (frmFTP::*open)(int row);
+        bool (frmFTP::*enter)(int row);
     };
-    for (const Side &side : {Side{m_ui->lvwLocal, m_ui->cmdAjouter, &frmFTP::openLocal},
-                             Side{m_ui->lvwRemote, m_ui->cmdRetirer, &frmFTP::openRemote}}) {
+    for (const Side &side : {Side{m_ui->lvwLocal, m_ui->cmdAjouter, &frmFTP::openLocal, &frmFTP::enterLocal},
+                             Side{m_ui->lvwRemote, m_ui->cmdRetirer, &frmFTP::openRemote, &frmFTP::enterRemote}}) {
         FtpPane *pane = side.pane;
         const bool remote = pane == m_ui->lvwRemote;
         const auto openRow = [this, open = side.open](int row) { run([this, open, row] { (this->*open)(row); }); };
         QObject::connect(pane, &FtpPane::rowOpened, this, openRow);
+        QObject::connect(pane, &FtpPane::rowEntered, this,
+                         [this, enter = side.enter](int row) { run([this, enter, row] { (this->*enter)(row); }); });
         QObject::connect(side.transfer, &QToolButton::clicked, this, [pane, openRow] { openRow(pane->currentRow()); });
         QObject::connect(pane, &FtpPane::deletePressed, this, [this] { run([this] { remove(); }); });
         QObject::connect(pane, &QTreeWidget::itemSelectionChanged, this, &frmFTP::UpdateCommands);
@@ -165,9 +168,14 @@ void frmFTP::wirePanes()
             if (m_running == 0)
                 queue(*pane);
         });
-        QObject::connect(pane, &FtpPane::dragLeft, this, [this, remote] { m_queue.UnmarkQueue(!remote); });
-        QObject::connect(pane, &FtpPane::rowsDropped, this,
-                         [this, pane](FtpPane *source) { run([this, pane, source] { dropped(*pane, source); }); });
+        QObject::connect(pane, &FtpPane::dragLeft, this, [this, remote] {
+            if (m_running == 0)
+                m_queue.UnmarkQueue(!remote);
+        });
+        QObject::connect(pane, &FtpPane::rowsDropped, this, [this, pane](FtpPane *source) {
+            run([this, pane, source] { dropped(*pane, source); });
+            pane->forgetDropRow();
+        });
         QObject::connect(pane->header(), &QHeaderView::sectionClicked, this, [this, remote](int column) {
             if (m_running > 0 || (remote && !isConnected()))
                 return;
@@ -332,5 +340,5 @@ void frmFTP::selectAll()
 
 void frmFTP::up()
 {
-    byFocus([this] { openRemote(0); }, [this] { openLocal(0); });
+    byFocus([this] { enterRemote(0); }, [this] { enterLocal(0); });
 }

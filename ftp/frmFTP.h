@@ -50,6 +50,9 @@ private:
     void up();
     void openLocal(int row);
     void openRemote(int row);
+    /// Go where the row leads. False for a file, which leads nowhere.
+    bool enterLocal(int row);
+    bool enterRemote(int row);
     void dropped(FtpPane &target, FtpPane *source);
     void deleteQueueRows();
     void queue(FtpPane &pane);
@@ -75,7 +78,6 @@ private:
     void editLocalName(int row) override;
     void editRemoteName(int row) override;
     void unmark(bool isLocalPane, const QueueItem &item) override;
-    void FollowDropTarget() override;
     void forgetDropTarget() override;
     void showFileInfo(const QString &name, const QString &size) override;
     void showProgress(qint64 value, qint64 maximum, const QString &rate) override;

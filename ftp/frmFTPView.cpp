@@ -33,24 +33,39 @@ void frmFTP::queue(FtpPane &pane)
 
 void frmFTP::openLocal(int row)
 {
-    if (!Panes::at(m_desk.localRows, row))
+    if (!Panes::at(m_desk.localRows, row) || enterLocal(row) || !isConnected())
         return;
-    const PaneRow chosen = m_desk.localRows[size_t(row)];
-    if (chosen.icon == u"Cdup"_s) {
-        m_local.LocalCdup();
-    } else if (isOpenedFolder(chosen.icon)) {
-        m_local.DoLocalRefresh(chosen.tag);
-    } else if (isConnected()) {
-        queue(*m_ui->lvwLocal);
-        m_queue.StoreQueue(m_desk.remoteDir);
-    }
+    queue(*m_ui->lvwLocal);
+    m_queue.StoreQueue(m_desk.remoteDir);
     addToHistory(*m_ui->cmbLocalDir, m_desk.localDir);
 }
 
 void frmFTP::openRemote(int row)
 {
-    if (!isConnected() || !Panes::at(m_desk.remoteRows, row))
+    if (!isConnected() || !Panes::at(m_desk.remoteRows, row) || enterRemote(row))
         return;
+    queue(*m_ui->lvwRemote);
+    m_queue.RetrieveQueue(m_desk.localDir);
+    addToHistory(*m_ui->cmbRemoteDir, m_desk.remoteDir);
+}
+
+bool frmFTP::enterLocal(int row)
+{
+    const PaneRow *chosen = Panes::at(m_desk.localRows, row);
+    if (chosen && chosen->icon == u"Cdup"_s)
+        m_local.LocalCdup();
+    else if (chosen && isOpenedFolder(chosen->icon))
+        m_local.DoLocalRefresh(QString(chosen->tag));
+    else
+        return false;
+    addToHistory(*m_ui->cmbLocalDir, m_desk.localDir);
+    return true;
+}
+
+bool frmFTP::enterRemote(int row)
+{
+    if (!isConnected() || !Panes::at(m_desk.remoteRows, row))
+        return false;
     const PaneRow chosen = m_desk.remoteRows[size_t(row)];
     if (chosen.icon == u"Cdup"_s) {
         if (const Result done = m_remote.RemoteCdup(); !done)
@@ -60,10 +75,10 @@ void frmFTP::openRemote(int row)
     } else if (chosen.icon == u"Link"_s) {
         m_remote.ProbeRemoteLink(row);
     } else {
-        queue(*m_ui->lvwRemote);
-        m_queue.RetrieveQueue(m_desk.localDir);
+        return false;
     }
     addToHistory(*m_ui->cmbRemoteDir, m_desk.remoteDir);
+    return true;
 }
 
 /// Dropped on a folder the rows go into it, else into the folder of the pane.
@@ -226,12 +241,6 @@ void frmFTP::unmark(bool isLocalPane, const QueueItem &item)
     FtpPane &pane = isLocalPane ? *m_ui->lvwLocal : *m_ui->lvwRemote;
     for (QTreeWidgetItem *row : pane.findItems(item.Name, Qt::MatchExactly | Qt::MatchCaseSensitive))
         pane.mark(pane.indexOfTopLevelItem(row), false);
-}
-
-void frmFTP::FollowDropTarget()
-{
-    if (const int row = m_ui->lvwRemote->dropRow(); row >= 0 && isConnected() && !m_desk.Ftp1.Busy())
-        openRemote(row);
 }
 
 void frmFTP::forgetDropTarget()

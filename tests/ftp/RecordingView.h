@@ -22,7 +22,6 @@ public:
     void editLocalName(int row) override { edited = row; }
     void editRemoteName(int row) override { edited = row; }
     void unmark(bool, const QueueItem &) override {}
-    void FollowDropTarget() override {}
     void forgetDropTarget() override {}
     void showFileInfo(const QString &, const QString &) override {}
     void showProgress(qint64, qint64, const QString &) override {}
