@@ -6,6 +6,18 @@
 
 using namespace Qt::StringLiterals;
 
+namespace {
+
+/// The target is still in the way: this item is passed over, the others are not.
+void giveUp(FtpDesk &desk, const QString &cause)
+{
+    desk.view.AppendLog(cause + u"\r\n");
+    desk.transfer.bCancel = true;
+    desk.transfer.nApplyAll = 0;
+}
+
+} // namespace
+
 void Conflict::opened(TransferVariables &transfer)
 {
     transfer.bCancel = true;
@@ -80,10 +92,12 @@ bool Conflict::renameTarget(FtpDesk &desk, RemoteBrowser &remote, const QString 
         return false;
     if (transfer.bStoring) {
         const QString &directory = transfer.sRemoteDir;
-        std::ignore = desk.Ftp1.Rename(directory + transfer.sRemoteName, directory + newName);
+        const Result renamed = desk.Ftp1.Rename(directory + transfer.sRemoteName, directory + newName);
+        if (!renamed)
+            giveUp(desk, renamed.text());
         std::ignore = remote.DoRemoteRefresh(directory);
-    } else {
-        QFile::rename(transfer.sLocalDir + transfer.sLocalName, transfer.sLocalDir + newName);
+    } else if (QFile target(transfer.sLocalDir + transfer.sLocalName); !target.rename(transfer.sLocalDir + newName)) {
+        giveUp(desk, target.errorString() + u": "_s + newName);
     }
     return true;
 }

@@ -40,7 +40,7 @@ void FtpDesk::listen()
 void FtpDesk::progressed(const FtpProgress &progress)
 {
     if (progress.status != FtpProgress::Running) {
-        view.enableAbort(false);
+        view.enableAbort(isAbortable);
         view.AppendLog(progress.reply);
         return;
     }

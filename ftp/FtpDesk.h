@@ -94,6 +94,7 @@ struct FtpDesk {
     bool bRestartSupported = false;
     bool bLost = false;
     bool bTransferring = false;
+    bool isAbortable = false; ///< through all of an action, not only while bytes move
     qint64 barValue = 0;
     qint64 barMaximum = 100;
 

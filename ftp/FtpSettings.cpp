@@ -97,9 +97,14 @@ int FtpSettings::typeFromName(const QString &name)
     return name == u"Ascii"_s ? FtpSession::Ascii : FtpSession::Ebcdic;
 }
 
+QString FtpCertificates::serverOf(const FtpCertificate &certificate)
+{
+    return certificate.host + u':' + QString::number(certificate.port);
+}
+
 FtpCertificates::Known FtpCertificates::check(const SettingsStore &store, const FtpCertificate &certificate)
 {
-    const QString kept = store.value(FtpSettings::application, certificates, certificate.host);
+    const QString kept = store.value(FtpSettings::application, certificates, serverOf(certificate));
     if (kept.isEmpty())
         return Known::Unknown;
     return kept == certificate.fingerprint ? Known::Same : Known::Changed;
@@ -107,5 +112,5 @@ FtpCertificates::Known FtpCertificates::check(const SettingsStore &store, const 
 
 Result FtpCertificates::keep(SettingsStore &store, const FtpCertificate &certificate)
 {
-    return store.save(FtpSettings::application, certificates, certificate.host, certificate.fingerprint);
+    return store.save(FtpSettings::application, certificates, serverOf(certificate), certificate.fingerprint);
 }

@@ -31,9 +31,11 @@ struct FtpSettings {
     static const QString timeoutWarning;
 };
 
-/// Certificates that were taken for good, one fingerprint a host.
+/// Certificates that were taken for good, one fingerprint a server.
 namespace FtpCertificates {
 enum class Known { Unknown, Same, Changed };
+/// Host and port.
+QString serverOf(const FtpCertificate &certificate);
 Known check(const SettingsStore &store, const FtpCertificate &certificate);
 Result keep(SettingsStore &store, const FtpCertificate &certificate);
 } // namespace FtpCertificates

@@ -27,7 +27,7 @@ Result removed(const QString &path)
     QFile doomed(path);
     if (!file.isSymLink())
         doomed.setPermissions(doomed.permissions() | QFile::WriteOwner);
-    return doomed.remove() ? Result() : Result(FtpError::LocalFile, path + u": " + doomed.errorString());
+    return doomed.remove() ? Result() : Result(FtpError::LocalFile, doomed.errorString() + u": " + path);
 }
 
 } // namespace

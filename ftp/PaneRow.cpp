@@ -59,6 +59,11 @@ QString Panes::asFolder(const QString &path, bool isRemote)
     return path.endsWith(separator) ? path : path + separator;
 }
 
+bool Panes::isPlainFolder(const QString &name, bool isRemote)
+{
+    return NormalizePath(name, isRemote) == asFolder(name, isRemote);
+}
+
 QString Panes::fileIcon(const QString &name)
 {
     static const QHash<QString, QString> icons = [] {

@@ -25,6 +25,9 @@ PaneRow upRow();
 QString NormalizePath(QString path, bool isRemote);
 /// A path as it is, with the separator of the side behind it.
 QString asFolder(const QString &path, bool isRemote);
+/// Whether the name of a folder would stay the same in a typed path. A tree that would not is never deleted: some
+/// servers trim names too, and the files of another folder would go.
+bool isPlainFolder(const QString &name, bool isRemote);
 /// The icon of a file by the last four characters of its name.
 QString fileIcon(const QString &name);
 /// The rows of a listing below a directory: the up row, the folders by name, then links and files as they came.

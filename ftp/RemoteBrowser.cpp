@@ -51,12 +51,21 @@ void RemoteBrowser::login()
     m_desk.SetFtpProperties();
     FtpSettings &settings = m_desk.settings;
     ftp.Tls = settings.Tls;
-    if (const Result in = ftp.Login(settings.RemoteHost, settings.UserName, settings.Password, {}, settings.RemotePort);
-        !in) {
+    m_desk.isAbortable = true;
+    m_desk.view.enableAbort(true);
+    const Result in = ftp.Login(settings.RemoteHost, settings.UserName, settings.Password, {}, settings.RemotePort);
+    m_desk.isAbortable = false;
+    m_desk.view.enableAbort(false);
+    if (!in) {
         m_desk.ShowFtpError(in);
         return;
     }
-    if (const Result asked = ftp.RestartSupported(m_desk.bRestartSupported); !asked)
+    const Result asked = ftp.RestartSupported(m_desk.bRestartSupported);
+    if (ftp.State() != FtpSession::Connected) {
+        m_desk.ShowFtpError(asked);
+        return;
+    }
+    if (!asked)
         settings.RemoteDir = ftp.CurrentDirectory();
     if (const Result shown = DoRemoteRefresh(ftp.CurrentDirectory()); !shown) {
         m_desk.ShowFtpError(shown);
@@ -130,10 +139,15 @@ void RemoteBrowser::showRows(const RemoteListing::Listing &listing)
 
 void RemoteBrowser::ShowListFailure(const QString &text)
 {
+    constexpr qsizetype shownLines = 20;
+    constexpr qsizetype shownLetters = 200;
+    QStringList lines = text.split(u"\r\n"_s).first(qMin(shownLines, text.count(u"\r\n"_s) + 1));
+    for (QString &line : lines)
+        line.truncate(shownLetters);
     m_desk.view.inform(u"Some non-UNIX or non-DOS listing were encountered. \r\n\r\n"
                        "This sample only supports UNIX and DOS listings. \r\n\r\n"
                        "Here are some of the lines that failed: \r\n\r\n"_s
-                       + text);
+                       + lines.join(u"\r\n"_s));
 }
 
 void RemoteBrowser::RestoreDefaultSort()
@@ -235,6 +249,7 @@ void RemoteBrowser::ViewRemoteFile(int row)
     m_desk.Ftp1.Type = m_desk.settings.TransferType;
     // The name is the same each time; what stands there may be a link that another user left.
     QFile::remove(m_desk.sViewFile);
+    std::ignore = QFile(m_desk.sViewFile).open(QFile::WriteOnly | QFile::NewOnly, QFile::ReadOwner | QFile::WriteOwner);
     if (m_desk.Ftp1.Retrieve(file.tag, m_desk.sViewFile))
         m_desk.view.open(m_desk.sViewFile);
     m_desk.resetBar();
@@ -253,11 +268,13 @@ void RemoteBrowser::DeleteRemote(QString directory, std::vector<QueueItem> queue
         return;
     }
     m_desk.SetFtpProperties();
+    m_desk.isAbortable = true;
     view.EnableDirBoxes(false, false);
     for (const QueueItem &item : queue) {
         m_desk.commandsOff();
+        view.enableAbort(true);
         const QString path = Panes::asFolder(directory, true) + item.Name;
-        const bool isFolder = Panes::isFolder(item.Icon);
+        const bool isFolder = item.Icon == u"FolderClose"_s; // a link goes, not what it leads to
         m_desk.showFileInfo((isFolder ? u"Folder:"_s : u"File:"_s) + item.Name, isFolder ? QString() : item.Size);
         const Result deleted = isFolder ? DeleteRemoteTree(directory, path) : m_desk.Ftp1.Delete(path);
         if (isFolder)
@@ -270,7 +287,10 @@ void RemoteBrowser::DeleteRemote(QString directory, std::vector<QueueItem> queue
         view.AddStatusRow(
             {deleted ? u"Delete"_s : u"Delete Denied"_s, {}, item.Size, {}, path, m_desk.settings.RemoteHost});
         std::ignore = DoRemoteRefresh(directory);
+        if (deleted.number() == FtpError::Aborted)
+            break;
     }
+    m_desk.isAbortable = false;
     view.EnableDirBoxes(true, true);
     m_desk.commandsBack();
 }
@@ -279,6 +299,8 @@ void RemoteBrowser::DeleteRemote(QString directory, std::vector<QueueItem> queue
 Result RemoteBrowser::DeleteRemoteTree(const QString &start, const QString &path)
 {
     FtpSession &ftp = m_desk.Ftp1;
+    if (!Panes::isPlainFolder(path.section(u'/', -1), true))
+        return {FtpError::BadName, u"This folder's name can't be kept: "_s + path};
     struct Folder {
         QString path;
         int depth;
@@ -298,12 +320,15 @@ Result RemoteBrowser::DeleteRemoteTree(const QString &start, const QString &path
             listed = ftp.List(text);
         if (isOver(listed))
             return listed;
+        if (!listed)
+            continue;
         for (const RemoteListing::Entry &entry : RemoteListing::parse(text).entries) {
-            if (!listed || entry.Type == u"L"_s || entry.Name.contains(u'/') || entry.Name == u"."_s
-                || entry.Name == u".."_s)
+            if (entry.Type == u"L"_s || entry.Name.contains(u'/') || entry.Name == u"."_s || entry.Name == u".."_s)
                 continue;
             const QString inside = Panes::asFolder(folder.path, true) + entry.Name;
-            if (entry.Type == u"d"_s && folder.depth < deepest)
+            if (entry.Type == u"d"_s && !Panes::isPlainFolder(entry.Name, true))
+                m_desk.view.AppendLog(u"This folder's name can't be kept: "_s + inside + u"\r\n"_s);
+            else if (entry.Type == u"d"_s && folder.depth < deepest)
                 open.push_back({inside, folder.depth + 1});
             else if (const Result deleted = ftp.Delete(inside); isOver(deleted))
                 return deleted;

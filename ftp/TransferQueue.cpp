@@ -171,7 +171,9 @@ void TransferQueue::StoreFileItem(const QString &target, const QueueItem &item)
         ftp.Type = m_desk.settings.TransferType;
         const QString local = transfer.sLocalDir + transfer.sLocalName;
         const QString remote = transfer.sRemoteDir + transfer.sRemoteName;
-        const Result stored = ftp.Store(remote, local, transfer.nRemoteSize);
+        const bool isAhead = !transfer.bOverwrite && transfer.nRemoteSize > transfer.nLocalSize;
+        const Result stored = isAhead ? Result(FtpError::ShortTransfer, u"The server's file is longer: "_s + remote)
+                                      : ftp.Store(remote, local, transfer.nRemoteSize);
         m_desk.showFileInfo({}, {});
         AddStatusRow(stored ? u"Upload"_s : u"Upload Denied"_s, local, item.Size, remote);
         if (!stored)

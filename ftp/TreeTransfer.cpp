@@ -40,17 +40,18 @@ public:
     TreeRun(const TreeRun &) = delete;
     TreeRun &operator=(const TreeRun &) = delete;
 
-    /// Keeps the first failure. True while the tree can go on.
+    /// Keeps the first failure, or the one that ended the tree. True while the tree can go on.
     bool note(const Result &result)
     {
         m_before += std::exchange(m_file, 0);
-        if (!result && m_first)
+        if (!result && (m_first || isOver(result)))
             m_first = result;
         return !isOver(result);
     }
     bool isOver(const Result &result) const
     {
-        return session.State() != FtpSession::Connected || result.number() == FtpError::Aborted;
+        return session.State() != FtpSession::Connected || result.number() == FtpError::Aborted
+               || result.number() == FtpError::DiskFull;
     }
     const Result &first() const { return m_first; }
 

@@ -63,7 +63,7 @@ Result FtpClient::Login(const QString &host, const QString &user, const QString 
     d->eightBit = false;
     d->serverIsEbcdic = false;
     d->wire.setServer({ace, port, user.toUtf8(), password.toUtf8(), account.toUtf8(), Tls});
-    d->wire.verifier.setHost(QString::fromLatin1(ace));
+    d->wire.verifier.setHost(QString::fromLatin1(ace), port);
     return d->login();
 }
 
@@ -110,6 +110,8 @@ Result FtpClient::List(QString &text, const QString &path)
     if (!path.isEmpty())
         request.path = d->encode(path.endsWith(u'/') ? path : path + u'/');
     Result listed = d->perform(request, "LIST");
+    if (!listed)
+        return listed;
     bool isUtf8 = true;
     text = decode(request.listing, &isUtf8);
     d->eightBit = !isUtf8;
@@ -137,7 +139,7 @@ Result FtpClient::Rename(const QString &oldPath, const QString &newPath)
 {
     Result renamed = d->command({d->named("RNFR", oldPath), d->named("RNTO", newPath)}, "RNTO");
     if (const FtpExchange *from = d->lastOutcome.exchange("RNFR"); from && from->code >= 400)
-        return {from->code, decode(from->reply).trimmed()};
+        return {from->code, d->shown(*from).trimmed()};
     return renamed;
 }
 

@@ -23,13 +23,29 @@ int operationOf(FtpRequest::Kind kind)
     return kind == FtpRequest::Kind::Store ? FtpOperation::Store : FtpOperation::Other;
 }
 
+QString causeOf(const FtpOutcome &outcome)
+{
+    switch (outcome.code) {
+    case CURLE_USE_SSL_FAILED:
+        return u"The server offers no TLS."_s;
+    case CURLE_COULDNT_RESOLVE_HOST:
+        return u"No server of that name was found."_s;
+    case CURLE_COULDNT_CONNECT:
+        return u"The server can't be reached."_s;
+    case CURLE_OPERATION_TIMEDOUT:
+        return u"The server did not answer in time."_s;
+    default:
+        return outcome.error;
+    }
+}
+
 } // namespace
 
 FtpClient::Private::Private(FtpClient &client) : q(client)
 {
     wire.onReply = [this](const FtpExchange &exchange) {
         const FtpProgress::Status status = statusOf(exchange.code);
-        tell({operationOf(exchange.command), status, decode(exchange.reply), 0});
+        tell({operationOf(exchange.command), status, shown(exchange), 0});
     };
 }
 
@@ -84,6 +100,8 @@ FtpOutcome FtpClient::Private::run(FtpRequest &request)
     worker.join();
     QCoreApplication::sendPostedEvents(&relay);
     deliver();
+    // One that came too late for the request has cut the connection all the same.
+    outcome.aborted = outcome.aborted || wire.isAborted();
     busy = false;
     return outcome;
 }
@@ -93,15 +111,13 @@ Result FtpClient::Private::failure(const FtpOutcome &outcome, const FtpExchange 
     if (outcome.aborted)
         return {FtpError::Aborted, u"The operation was aborted."_s};
     if (outcome.localFailure)
-        return {FtpError::LocalFile, outcome.error};
-    if (outcome.code == CURLE_USE_SSL_FAILED)
-        return {FtpError::Connection, u"The server offers no TLS."_s};
+        return {outcome.diskFull ? FtpError::DiskFull : FtpError::LocalFile, outcome.error};
     if (outcome.code != CURLE_OK)
         judged = outcome.last();
     if (judged && judged->code >= 400)
-        return {judged->code, decode(judged->reply).trimmed()};
+        return {judged->code, shown(*judged).trimmed()};
     if (outcome.code != CURLE_OK)
-        return {FtpError::Connection, outcome.error};
+        return {FtpError::Connection, causeOf(outcome)};
     if (!judged || judged->code == 0)
         return {FtpError::Connection, u"The server gave no reply."_s};
     return {};
@@ -118,7 +134,7 @@ void FtpClient::Private::settle(const FtpRequest &request, const FtpOutcome &out
         return;
     }
     const bool nothingSent = outcome.localFailure && outcome.exchanges.empty();
-    if (nothingSent || (outcome.code == CURLE_OK && !outcome.localFailure))
+    if (nothingSent || (outcome.code == CURLE_OK && !outcome.localFailure && !outcome.aborted))
         return;
     const bool refused = last && last->code >= 400 && wire.hasConnection();
     if (refused && !outcome.aborted)
@@ -151,11 +167,8 @@ Result FtpClient::Private::perform(FtpRequest &request, const char *word)
     const FtpOutcome &outcome = lastOutcome = run(request);
     const FtpExchange *judged = outcome.exchange(word);
     Result result = failure(outcome, judged);
-    if (result && request.kind == FtpRequest::Kind::Retrieve && request.type == Binary && request.offset == 0) {
-        const qint64 announced = judged ? announcedSize(decode(judged->opening)) : -1;
-        if (announced > outcome.count)
-            result = {FtpError::ShortTransfer, u"The file is shorter than the server announced."_s};
-    }
+    if (result && outcome.isShort)
+        result = {FtpError::ShortTransfer, u"The file is shorter than the server announced."_s};
     const bool isTold = !outcome.aborted && !outcome.localFailure && judged && judged->code >= 400;
     if (!result && !isTold && q.onProgress)
         q.onProgress({operationOf(request.kind), FtpProgress::Failed, result.text() + u"\r\n", 0});
@@ -183,6 +196,11 @@ Result FtpClient::Private::command(std::vector<QByteArray> commands, const char 
     FtpRequest request;
     request.commands = std::move(commands);
     return perform(request, word);
+}
+
+QString FtpClient::Private::shown(const FtpExchange &exchange) const
+{
+    return decode(wire.withoutPassword(exchange.reply));
 }
 
 QString FtpClient::Private::replyTo(const char *word) const

@@ -16,6 +16,8 @@ public:
     Result perform(FtpRequest &request, const char *word);
     Result command(std::vector<QByteArray> commands, const char *word);
     QString replyTo(const char *word) const;
+    /// A reply for log and messages, without the password.
+    QString shown(const FtpExchange &exchange) const;
     void takeDirectory(const QString &otherwise);
     Result login();
     Result comeBack();

@@ -51,7 +51,8 @@ QString FtpReply::quotedDirectory(const QString &reply)
 
 qint64 FtpReply::announcedSize(const QString &reply)
 {
-    static const QRegularExpression size(u"\\((\\d+) bytes"_s);
+    // The name of the file comes first, and may hold a size of its own.
+    static const QRegularExpression size(u".*\\((\\d+) bytes"_s, QRegularExpression::DotMatchesEverythingOption);
     const QRegularExpressionMatch match = size.match(reply);
     return match.hasMatch() ? match.captured(1).toLongLong() : -1;
 }

@@ -24,6 +24,7 @@ struct FtpProgress {
 /// A certificate that can't be verified, for the merchant to decide on.
 struct FtpCertificate {
     QString host;
+    int port = 21;
     QString subject;
     QString issuer;
     QDateTime from;
@@ -38,7 +39,17 @@ enum class FtpTls { Automatic = 0, Always = 1, Never = 2 };
 /// Numbers of failures that no reply of the server stands for. A refused command fails with the code of its
 /// reply, 400 to 599.
 namespace FtpError {
-enum Number : long { NotConnected = 1001, Busy, BadName, Aborted, LocalFile, Certificate, ShortTransfer, Connection };
+enum Number : long {
+    NotConnected = 1001,
+    Busy,
+    BadName,
+    Aborted,
+    LocalFile,
+    Certificate,
+    ShortTransfer,
+    Connection,
+    DiskFull
+};
 }
 
 /// One session with an FTP server. Each operation waits for its end while the event loop of the caller turns;
@@ -88,7 +99,8 @@ public:
     virtual Result Delete(const QString &path) = 0;
     virtual Result Rename(const QString &oldPath, const QString &newPath) = 0;
     /// The remote file from `offset` on, into the local file at the same place. The local file is touched when
-    /// the first bytes come, and keeps what came before a failure.
+    /// the first bytes come, and keeps what came before a failure. One that is replaced stays as it is until all
+    /// has come.
     virtual Result Retrieve(const QString &remoteFile, const QString &localFile, qint64 offset = 0) = 0;
     /// The local file, from `offset` on when `StoreMode` continues.
     virtual Result Store(const QString &remoteFile, const QString &localFile, qint64 offset = 0) = 0;

@@ -50,6 +50,7 @@ struct FtpVerifierCall {
         X509 *certificate = X509_STORE_CTX_get0_cert(context);
         FtpCertificate seen;
         seen.host = verifier.m_host;
+        seen.port = verifier.m_port;
         seen.fingerprint = fingerprintOf(certificate);
         if (verifier.m_accepted.contains(seen.fingerprint)) {
             X509_STORE_CTX_set_error(context, X509_V_OK);
@@ -70,11 +71,12 @@ struct FtpVerifierCall {
     }
 };
 
-void FtpVerifier::setHost(const QString &host)
+void FtpVerifier::setHost(const QString &host, int port)
 {
-    if (host != m_host)
+    if (host != m_host || port != m_port)
         m_accepted.clear();
     m_host = host;
+    m_port = port;
     m_refused.reset();
 }
 

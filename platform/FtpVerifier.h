@@ -13,8 +13,8 @@ struct x509_store_st;
 /// fingerprint. What is neither is noted for the merchant and the handshake ends, before any password is sent.
 class FtpVerifier {
 public:
-    /// What is accepted holds for one host.
-    void setHost(const QString &host);
+    /// What is accepted holds for one host and port.
+    void setHost(const QString &host, int port);
     /// Puts the verifier in the place of OpenSSL's own check; `sslContext` is an SSL_CTX.
     void install(void *sslContext);
 
@@ -26,6 +26,7 @@ private:
     friend struct FtpVerifierCall;
 
     QString m_host;
+    int m_port = 0;
     std::shared_ptr<x509_store_st> m_authorities; ///< those of the system, OpenSSL's X509_STORE
     QSet<QString> m_accepted;
     std::optional<FtpCertificate> m_refused;

@@ -1,8 +1,14 @@
 #include "platform/FtpWire.h"
 
+#include "platform/FtpReply.h"
+
+#include <QFileInfo>
+#include <QUuid>
+
 #include <sys/socket.h>
 #include <unistd.h>
 
+#include <cstdio>
 #include <memory>
 
 using namespace Qt::StringLiterals;
@@ -10,8 +16,9 @@ using namespace Qt::StringLiterals;
 namespace {
 
 constexpr qsizetype longestReplies = 256 * 1024; ///< of one request; more is a server that never ends
-constexpr long waitStep = 10;                    ///< milliseconds
-constexpr qint64 countStep = 50;                 ///< milliseconds between two counts of bytes
+constexpr qsizetype longestListing = 32 * 1024 * 1024;
+constexpr long waitStep = 10;    ///< milliseconds
+constexpr qint64 countStep = 50; ///< milliseconds between two counts of bytes
 
 using Commands = std::unique_ptr<curl_slist, decltype(&curl_slist_free_all)>;
 
@@ -57,8 +64,12 @@ struct FtpWireCall {
         auto &wire = *static_cast<FtpWire *>(self);
         const auto bytes = qsizetype(size * count);
         if (wire.m_request->kind == FtpRequest::Kind::List) {
+            if (wire.m_request->listing.size() + bytes > longestListing) {
+                wire.m_flooded = true;
+                return 0;
+            }
             wire.m_request->listing.append(data, bytes);
-        } else if (!wire.openLocal() || wire.m_file.write(data, bytes) != bytes) {
+        } else if (!wire.openLocal() || !wire.keep(data, bytes)) {
             wire.m_outcome->localFailure = true;
             return 0;
         }
@@ -164,6 +175,11 @@ bool FtpWire::isStale()
     return recv(idleSocket(), &byte, 1, MSG_PEEK | MSG_DONTWAIT) >= 0 || (errno != EAGAIN && errno != EWOULDBLOCK);
 }
 
+QByteArray FtpWire::withoutPassword(QByteArray reply) const
+{
+    return m_server.password.isEmpty() ? reply : reply.replace(m_server.password, "****");
+}
+
 void FtpWire::replyLine(QByteArrayView line)
 {
     m_replyBytes += line.size();
@@ -182,8 +198,6 @@ void FtpWire::replyLine(QByteArrayView line)
     FtpExchange &exchange = m_outcome->exchanges.back();
     exchange.code = line.first(3).toByteArray().toInt();
     exchange.reply = std::exchange(m_lines, {});
-    if (!m_server.password.isEmpty())
-        exchange.reply.replace(m_server.password, "****");
     if (exchange.code < 200)
         exchange.opening = exchange.reply;
     if (onReply)
@@ -207,8 +221,58 @@ bool FtpWire::openLocal()
     m_file.setFileName(m_request->localFile);
     if (m_request->kind == FtpRequest::Kind::Store)
         return m_file.open(QFile::ReadOnly);
-    const QFile::OpenMode mode = m_request->offset > 0 ? QFile::ReadWrite : QFile::WriteOnly | QFile::Truncate;
-    return m_file.open(mode) && m_file.seek(m_request->offset);
+    // Without a buffer a full disk is told where it happens.
+    if (m_request->offset > 0)
+        return m_file.open(QFile::ReadWrite | QFile::Unbuffered) && m_file.seek(m_request->offset);
+    const QFileInfo existing(m_request->localFile);
+    if (!existing.isFile() || !existing.isWritable())
+        return m_file.open(QFile::WriteOnly | QFile::Truncate | QFile::Unbuffered);
+    m_replaced = existing.canonicalFilePath();
+    m_file.setFileName(QFileInfo(m_replaced).path() + u"/.recu-"_s + QUuid::createUuid().toString(QUuid::Id128));
+    return m_file.open(QFile::WriteOnly | QFile::NewOnly | QFile::Unbuffered, existing.permissions());
+}
+
+/// A disk that fills takes a part of the bytes first, and gives the cause with the next ones.
+bool FtpWire::keep(const char *data, qsizetype bytes)
+{
+    while (bytes > 0) {
+        const qint64 written = m_file.write(data, bytes);
+        if (written <= 0)
+            return false;
+        data += written;
+        bytes -= qsizetype(written);
+    }
+    return true;
+}
+
+/// What came takes the place of the old file only when it is whole.
+void FtpWire::endLocal(FtpOutcome &outcome)
+{
+    if (outcome.localFailure) {
+        outcome.diskFull = m_file.error() == QFile::ResourceError;
+        outcome.error = m_file.errorString() + u": "_s + m_request->localFile;
+    }
+    m_file.close();
+    const QString replaced = std::exchange(m_replaced, QString());
+    if (replaced.isEmpty())
+        return;
+    if (outcome.code != CURLE_OK || outcome.localFailure || outcome.isShort) {
+        m_file.remove();
+    } else if (std::rename(QFile::encodeName(m_file.fileName()).constData(), QFile::encodeName(replaced).constData())
+               != 0) {
+        outcome.localFailure = true;
+        outcome.error = qt_error_string() + u": "_s + m_request->localFile;
+        m_file.remove();
+    }
+}
+
+/// Whether less came than the server announced.
+bool FtpWire::isShort(const FtpOutcome &outcome) const
+{
+    const bool isCounted = m_request->kind == FtpRequest::Kind::Retrieve && m_request->type == FtpSession::Binary
+                           && m_request->offset == 0 && outcome.code == CURLE_OK;
+    const FtpExchange *retrieve = isCounted ? outcome.exchange("RETR") : nullptr;
+    return retrieve && FtpReply::announcedSize(FtpReply::decode(retrieve->opening)) > outcome.count;
 }
 
 void FtpWire::prepare()
@@ -309,13 +373,8 @@ FtpOutcome FtpWire::run(FtpRequest &request)
     // An empty file sends no bytes.
     if (request.kind == FtpRequest::Kind::Retrieve && outcome.code == CURLE_OK && !openLocal())
         outcome.localFailure = true;
-    if (outcome.localFailure)
-        outcome.error = request.localFile + u": "_s + m_file.errorString();
-    if (m_file.isOpen() && request.kind == FtpRequest::Kind::Retrieve && !m_file.flush() && !outcome.localFailure) {
-        outcome.localFailure = true;
-        outcome.error = request.localFile + u": "_s + m_file.errorString();
-    }
-    m_file.close();
+    outcome.isShort = isShort(outcome);
+    endLocal(outcome);
     m_request = nullptr;
     m_outcome = nullptr;
     return outcome;

@@ -49,7 +49,9 @@ struct FtpOutcome {
     QString error;
     bool aborted = false;
     bool localFailure = false;
-    qint64 count = 0; ///< bytes moved
+    bool diskFull = false; ///< the local one
+    bool isShort = false;  ///< the server announced a longer file
+    qint64 count = 0;      ///< bytes moved
     std::vector<FtpExchange> exchanges;
 
     const FtpExchange *last() const { return exchanges.empty() ? nullptr : &exchanges.back(); }
@@ -70,11 +72,14 @@ public:
     /// Ends the request that runs, or the next one unless `forgetAbort` comes before it. From any thread.
     void abort();
     void forgetAbort() { m_aborted = false; }
+    bool isAborted() const { return m_aborted; }
     /// Closes the connection without a word. No request runs.
     void drop();
     bool hasConnection();
     /// Whether the idle connection has been closed by the server, or holds a reply that nothing asked for.
     bool isStale();
+    /// A reply as it may be shown.
+    QByteArray withoutPassword(QByteArray reply) const;
 
     FtpVerifier verifier;
     // Called in the thread of `run`.
@@ -89,6 +94,9 @@ private:
     void perform(FtpOutcome &outcome);
     CURLcode waitForEnd();
     bool openLocal();
+    bool keep(const char *data, qsizetype bytes);
+    void endLocal(FtpOutcome &outcome);
+    bool isShort(const FtpOutcome &outcome) const;
     void replyLine(QByteArrayView line);
     void count(qsizetype bytes);
     curl_socket_t idleSocket();
@@ -99,6 +107,7 @@ private:
     FtpRequest *m_request = nullptr;
     FtpOutcome *m_outcome = nullptr;
     QFile m_file;
+    QString m_replaced; ///< the file whose place is taken at the end, when one was there
     QByteArray m_lines; ///< of the reply that is coming in
     QElapsedTimer m_quiet;
     QElapsedTimer m_lastCount;

@@ -1,4 +1,5 @@
 #include "platform/FtpClient.h"
+#include "platform/FtpReply.h"
 #include "tests/ftp/ScriptedServer.h"
 #include "tests/support/Files.h"
 #include "tests/support/Suite.h"
@@ -22,6 +23,10 @@ private Q_SLOTS:
     void droppedWhileIdle();
     void namesStayOneCommand();
     void passwordStaysOutOfTheLog();
+    void passwordIsNoPartOfAFolder();
+    void replacedFileStaysUntilAllCame();
+    void fullDisk();
+    void announcedSize();
     void eightBitNames();
     void noServer();
 
@@ -211,6 +216,53 @@ void FtpClientTest::passwordStaysOutOfTheLog()
     QVERIFY(login() && client->RestartSupported(takesRest) && takesRest);
     server->replies["REST"] = "502 no";
     QVERIFY(client->RestartSupported(takesRest) && !takesRest);
+}
+
+void FtpClientTest::passwordIsNoPartOfAFolder()
+{
+    server->files["/www/f"] = "file";
+    QVERIFY(client->Login(u"127.0.0.1"_s, u"shop"_s, u"www"_s, {}, server->port()));
+    QVERIFY(client->setCurrentDirectory(u"/www"_s));
+    QCOMPARE(client->CurrentDirectory(), u"/www"_s);
+    QVERIFY(client->Retrieve(u"f"_s, folder.filePath(u"got"_s)));
+    QVERIFY(log.contains(u"\"/****\""_s) && !log.contains(u"www"_s));
+}
+
+/// A download that ends early leaves the file of that name as it was, and nothing beside it.
+void FtpClientTest::replacedFileStaysUntilAllCame()
+{
+    const QTemporaryDir place;
+    const QString got = place.filePath(u"got"_s);
+    Files::write(got, "the merchant's own");
+    QFile::setPermissions(got, QFile::ReadOwner | QFile::WriteOwner);
+    QVERIFY(login());
+    for (const auto fault : {ScriptedServer::CutData, ScriptedServer::ShortDownload}) {
+        server->fault = fault;
+        QVERIFY(!client->Retrieve(u"/old"_s, got));
+        QCOMPARE(Files::tree(place.path()), (QMap<QString, QByteArray>{{u"got"_s, "the merchant's own"}}));
+    }
+    server->fault = ScriptedServer::None;
+    QVERIFY(client->Retrieve(u"/old"_s, got));
+    QCOMPARE(Files::tree(place.path()), (QMap<QString, QByteArray>{{u"got"_s, server->files["/old"]}}));
+    QVERIFY(!(QFile::permissions(got) & (QFile::ReadGroup | QFile::ReadOther)));
+}
+
+void FtpClientTest::fullDisk()
+{
+    QVERIFY(login());
+    const Result full = client->Retrieve(u"/old"_s, u"/dev/full"_s);
+    QCOMPARE(full.number(), long(FtpError::DiskFull));
+    QCOMPARE(full.text(), u"No space left on device: /dev/full"_s);
+    QVERIFY(client->Retrieve(u"/old"_s, folder.filePath(u"got"_s)));
+    server->listing = QByteArray(33 * 1024 * 1024, 'x');
+    QString text;
+    QVERIFY(!client->List(text) && text.isEmpty()); // nor is the memory filled by a listing
+}
+
+void FtpClientTest::announcedSize()
+{
+    QCOMPARE(FtpReply::announcedSize(u"150 Opening BINARY for a (999 bytes).txt (15 bytes).\r\n"_s), qint64(15));
+    QCOMPARE(FtpReply::announcedSize(u"150 here\r\n"_s), qint64(-1));
 }
 
 void FtpClientTest::eightBitNames()

@@ -1,9 +1,6 @@
-#include "ftp/TransferQueue.h"
 #include "ftp/Conflict.h"
-#include "platform/FtpClient.h"
 #include "platform/SettingsStore.h"
-#include "tests/ftp/RealServer.h"
-#include "tests/ftp/RecordingView.h"
+#include "tests/ftp/RulesDesk.h"
 #include "tests/ftp/ScriptedServer.h"
 #include "tests/support/Files.h"
 #include "tests/support/Suite.h"
@@ -12,70 +9,6 @@
 #include <QTest>
 
 using namespace Qt::StringLiterals;
-
-namespace {
-
-/// The window's rules without the window, logged in to a server.
-struct Desk {
-    explicit Desk(int port, const QString &user = u"shop"_s)
-    {
-        desk.settings.RemoteHost = u"127.0.0.1"_s;
-        desk.settings.UserName = user;
-        desk.settings.Password = RealServer::password;
-        desk.settings.RemotePort = port;
-        desk.settings.Timeout = 5;
-        desk.sViewFile = path(u"sFile"_s);
-        desk.listen();
-        remote.login();
-        QDir(folder.path()).mkdir(u"local"_s);
-        local.DoLocalRefresh(path(u"local"_s));
-    }
-
-    QString path(const QString &name) const { return folder.filePath(name); }
-    QString home() const { return client.CurrentDirectory(); }
-    static int row(const PaneRows &rows, const QString &name)
-    {
-        const PaneRow *found = Panes::find(rows, name);
-        return found ? int(found - rows.data()) : -1;
-    }
-    void queueRemote(const QStringList &names)
-    {
-        std::vector<int> rows;
-        for (const QString &name : names)
-            rows.push_back(row(desk.remoteRows, name));
-        queue.QueueRemoteSelection(home(), rows);
-    }
-    void store(const QStringList &names)
-    {
-        local.DoLocalRefresh(desk.localDir);
-        std::vector<int> rows;
-        for (const QString &name : names)
-            rows.push_back(row(desk.localRows, name));
-        queue.QueueLocalSelection(desk.localDir, rows);
-        queue.StoreQueue(home());
-    }
-    void retrieve(const QStringList &names)
-    {
-        queueRemote(names);
-        queue.RetrieveQueue(desk.localDir);
-    }
-    /// The status rows since the last call, without the path of the remote folder.
-    QString statusRows()
-    {
-        const QString text = std::exchange(view.status, {}).join(u'|');
-        return QString(text).remove(Panes::NormalizePath(home(), true));
-    }
-
-    QTemporaryDir folder;
-    FtpClient client;
-    RecordingView view;
-    FtpDesk desk{client, view};
-    RemoteBrowser remote{desk};
-    LocalBrowser local{desk};
-    TransferQueue queue{desk, remote, local};
-};
-
-} // namespace
 
 class TransferQueueTest : public QObject {
     Q_OBJECT
@@ -112,7 +45,7 @@ void TransferQueueTest::uploadConflicts()
     const RealServer server(RealServer::Kind::Proftpd);
     Files::write(server.root() + u"/a", "12");
     Files::write(server.root() + u"/b", "12");
-    Desk desk(server.port());
+    RulesDesk desk(server.port());
     for (const QString &name : {u"a"_s, u"b"_s, u"c"_s})
         Files::write(desk.path(u"local/"_s + name), "abcd");
     desk.view.decide = [&] {
@@ -145,7 +78,7 @@ void TransferQueueTest::downloadConflicts()
     const RealServer server(RealServer::Kind::Proftpd);
     for (const char *name : {"/a", "/b", "/gone", "/z"})
         Files::write(server.root() + QLatin1String(name), "abcd");
-    Desk desk(server.port());
+    RulesDesk desk(server.port());
     QVERIFY(desk.desk.bRestartSupported);
     const auto local = [&](const QString &name) { return desk.path(u"local/"_s + name); };
     TransferVariables &transfer = desk.desk.transfer;
@@ -187,7 +120,7 @@ void TransferQueueTest::downloadConflicts()
 void TransferQueueTest::folders()
 {
     const RealServer server(RealServer::Kind::Proftpd);
-    Desk desk(server.port());
+    RulesDesk desk(server.port());
     const QString shop = desk.path(u"local/my shop"_s);
     Files::write(shop + u"/img/deep/a.jpg", "picture");
     Files::write(shop + u"/index.htm", "page");
@@ -225,16 +158,16 @@ void TransferQueueTest::browsing()
     const RealServer server(RealServer::Kind::Proftpd);
     Files::write(server.root() + u"/real/page.htm", "page");
     QFile::link(server.root() + u"/real", server.root() + u"/now");
-    Desk desk(server.port());
+    RulesDesk desk(server.port());
     const QString home = desk.home();
     QCOMPARE(desk.view.caption, u"ZELVANTORFTP (Connected to: 127.0.0.1)"_s);
     QVERIFY(desk.view.log.startsWith(u"Connecting ...\r\n"_s) && !desk.view.log.contains(RealServer::password));
-    const int link = Desk::row(desk.desk.remoteRows, u"now"_s);
+    const int link = RulesDesk::row(desk.desk.remoteRows, u"now"_s);
     desk.remote.ProbeRemoteLink(link);
     QCOMPARE(desk.desk.remoteRows[size_t(link)].icon, u"FolderLink"_s);
     QCOMPARE(desk.home(), home);
     desk.remote.ChangeRemoteDir(desk.desk.remoteRows[size_t(link)].tag);
-    desk.remote.ViewRemoteFile(Desk::row(desk.desk.remoteRows, u"page.htm"_s));
+    desk.remote.ViewRemoteFile(RulesDesk::row(desk.desk.remoteRows, u"page.htm"_s));
     QCOMPARE(desk.view.opened, QStringList(desk.desk.sViewFile));
     QCOMPARE(Files::read(desk.desk.sViewFile), QByteArray("page"));
     desk.remote.ChangeRemoteDir(u"/no/such/folder"_s);
@@ -264,7 +197,7 @@ void TransferQueueTest::hostileNames()
     ScriptedServer server;
     QByteArray lines = "drwxr-xr-x 1 a b 7 Jan 15 12:30 shop\r\n";
     server.listing = lines;
-    Desk desk(server.port());
+    RulesDesk desk(server.port());
     for (const char *name : {"../out", "/tmp/out", "..\\out", "a\tb", "con", "good", ".."})
         server.listing += "-rw-r--r-- 1 a b 4 Jan 15 12:30 " + QByteArray(name) + "\r\n";
     server.listing.remove(0, lines.size());
@@ -284,7 +217,7 @@ void TransferQueueTest::hostileNames()
 void TransferQueueTest::lostServer()
 {
     auto server = std::make_unique<ScriptedServer>();
-    Desk desk(server->port());
+    RulesDesk desk(server->port());
     Files::write(desk.path(u"local/a"_s), "a");
     Files::write(desk.path(u"local/b"_s), "b");
     server->replies["STOR"] = "553 no";
@@ -318,10 +251,15 @@ void TransferQueueTest::settings()
     QCOMPARE(store.value(u"ZELVANTORFTP"_s, u"Settings"_s, u"Password"_s), settings.Password);
     const FtpSettings again = FtpSettings::load(store);
     QVERIFY(again.TransferType == 2 && !again.Passive && again.Timeout == 9999 && again.Tls == FtpTls::Always);
-    FtpCertificate certificate{u"shop.example"_s, {}, {}, {}, {}, u"AA:BB"_s, {}};
+    FtpCertificate certificate;
+    certificate.host = u"shop.example"_s;
+    certificate.fingerprint = u"AA:BB"_s;
     QVERIFY(FtpCertificates::check(store, certificate) == FtpCertificates::Known::Unknown);
     QVERIFY(FtpCertificates::keep(store, certificate));
     QVERIFY(FtpCertificates::check(store, certificate) == FtpCertificates::Known::Same);
+    certificate.port = 2121; // another server of the host
+    QVERIFY(FtpCertificates::check(store, certificate) == FtpCertificates::Known::Unknown);
+    certificate.port = 21;
     certificate.fingerprint = u"AA:CC"_s;
     QVERIFY(FtpCertificates::check(store, certificate) == FtpCertificates::Known::Changed);
 }
