@@ -27,6 +27,8 @@ frmFTP::frmFTP(Session &screenSession, QWidget *parent, std::unique_ptr<FtpSessi
     m_ui->setupUi(this);
     m_ui->spFtp->setSizes({420, 30, 110, 90});
     m_ui->txtLog->setMaximumBlockCount(5000);
+    layout()->setSizeConstraint(QLayout::SetNoConstraint);
+    setMinimumSize(400, 267);
     giveTips();
     opened();
     setWindowTitle(FtpSettings::application);
@@ -55,6 +57,15 @@ void frmFTP::done(int result)
         return;
     }
     Screen::done(result);
+}
+
+/// Escape is pressed by mistake more easily than the window is closed.
+void frmFTP::keyPressEvent(QKeyEvent *event)
+{
+    if (event->key() == Qt::Key_Escape && m_running > 0
+        && !confirm(session().localisation.Traduire(u"ZELVANTORFTP"_s, u"25"_s), FtpSettings::application))
+        return;
+    Screen::keyPressEvent(event);
 }
 
 void frmFTP::load()
@@ -91,6 +102,12 @@ void frmFTP::giveTips()
         tool.action->setIcon(Skin::icon(QString::fromUtf16(tool.icon)));
         const QString tip = session().localisation.Traduire(u"ZELVANTORFTP"_s, QString::number(++key));
         tool.action->setToolTip(tip.isEmpty() ? tool.action->text() : tip);
+    }
+    const std::pair<QToolButton *, QString> ways[] = {{m_ui->cmdAjouter, u"23"_s}, {m_ui->cmdRetirer, u"24"_s}};
+    for (const auto &[button, text] : ways) {
+        const QString tip = session().localisation.Traduire(u"ZELVANTORFTP"_s, text);
+        button->setToolTip(tip.isEmpty() ? button->toolTip() : tip);
+        button->setAccessibleName(button->toolTip());
     }
 }
 
@@ -236,6 +253,7 @@ void frmFTP::run(const std::function<void()> &command)
     ++m_running;
     command();
     --m_running;
+    enableAbort(false); // the count of the last bytes may come behind the reply that ended them
     if (m_closing)
         reject();
     else
@@ -269,9 +287,12 @@ bool frmFTP::decideCertificate(const FtpCertificate &certificate)
     const FtpCertificates::Known known = FtpCertificates::check(session().settings, certificate);
     if (known == FtpCertificates::Known::Same)
         return true;
-    frmCertificate question(session(), certificate, known == FtpCertificates::Known::Changed, this);
+    const QString server = FtpCertificates::serverOf(certificate);
+    const bool isOther = m_accepted.value(server, certificate.fingerprint) != certificate.fingerprint;
+    frmCertificate question(session(), certificate, isOther || known == FtpCertificates::Known::Changed, this);
     if (question.exec() != QDialog::Accepted)
         return false;
+    m_accepted.insert(server, certificate.fingerprint);
     if (question.forGood())
         if (const Result kept = FtpCertificates::keep(session().settings, certificate); !kept)
             warn(kept.message());

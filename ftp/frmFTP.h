@@ -2,6 +2,8 @@
 #include "ftp/TransferQueue.h"
 #include "shell/Screen.h"
 
+#include <QMap>
+
 #include <memory>
 
 class FtpPane;
@@ -23,6 +25,7 @@ public:
 
 protected:
     bool eventFilter(QObject *object, QEvent *event) override;
+    void keyPressEvent(QKeyEvent *event) override;
 
 private:
     enum class Focus { Local, Remote, Status };
@@ -98,4 +101,5 @@ private:
     Focus m_focus = Focus::Local;
     int m_running = 0;
     bool m_closing = false;
+    QMap<QString, QString> m_accepted; ///< certificates of this session, by server
 };

@@ -4,6 +4,7 @@
 #include "ftp/frmTransfer.h"
 #include "platform/Desktop.h"
 #include "platform/Messages.h"
+#include "shell/Causes.h"
 #include "ui_frmFTP.h"
 
 #include <QApplication>
@@ -192,7 +193,7 @@ void frmFTP::clearLog()
 void frmFTP::AppendLog(const QString &text)
 {
     m_ui->txtLog->moveCursor(QTextCursor::End);
-    m_ui->txtLog->insertPlainText(QString(text).remove(u'\r'));
+    m_ui->txtLog->insertPlainText(Causes::text(text, session().localisation).remove(u'\r'));
     m_ui->txtLog->ensureCursorVisible();
 }
 
@@ -272,22 +273,25 @@ void frmFTP::AddStatusRow(const StatusRow &row)
 
 void frmFTP::warn(const QString &text)
 {
-    session().messages->box(text, FtpSettings::application);
+    if (!m_closing)
+        session().messages->warn(Causes::text(text, session().localisation), FtpSettings::application);
 }
 
 void frmFTP::inform(const QString &text)
 {
-    session().messages->box(text, FtpSettings::application);
+    if (!m_closing)
+        session().messages->box(Causes::text(text, session().localisation), FtpSettings::application);
 }
 
 bool frmFTP::confirm(const QString &text, const QString &title)
 {
-    return session().messages->confirm(text, title);
+    return !m_closing && session().messages->confirm(text, title);
 }
 
 void frmFTP::askConflict()
 {
-    frmTransfer::ask(session(), m_desk, m_remote, this);
+    if (!m_closing)
+        frmTransfer::ask(session(), m_desk, m_remote, this);
 }
 
 bool frmFTP::open(const QString &file)

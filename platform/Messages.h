@@ -8,6 +8,8 @@ public:
     virtual ~Messages() = default;
     /// A box with one button.
     virtual void box(const QString &text, const QString &title) = 0;
+    /// The same with the sign of a warning, where there is one.
+    virtual void warn(const QString &text, const QString &title) { box(text, title); }
     /// A box with Yes and No; true for Yes.
     virtual bool question(const QString &text, const QString &title) = 0;
     /// A box with OK and Cancel; true for OK.

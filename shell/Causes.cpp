@@ -15,9 +15,9 @@ struct Cause {
     QString french;
 };
 
-const std::array<Cause, 19> &causes()
+const std::array<Cause, 41> &causes()
 {
-    static const std::array<Cause, 19> table = {{
+    static const std::array<Cause, 41> table = {{
         {u"c1"_s, u"No such file or directory"_s, u"fichier introuvable"_s},
         {u"c2"_s, u"Permission denied"_s, u"accès refusé"_s},
         {u"c3"_s, u"No space left on device"_s, u"plus de place sur le disque"_s},
@@ -37,6 +37,30 @@ const std::array<Cause, 19> &causes()
         {u"c15"_s, u"not in the form of a language file"_s, u"n’a pas la forme d’un fichier de langue"_s},
         {u"c17"_s, u"apostrophe: "_s, u"un code ne peut pas contenir d’apostrophe : "_s},
         {u"c16"_s, u"no file name"_s, u"nom de fichier impossible"_s},
+        {u"c18"_s, u"The operation was aborted."_s, u"L’opération a été interrompue."_s},
+        {u"c19"_s, u"The server's certificate was not accepted"_s, u"Le certificat du serveur n’a pas été accepté"_s},
+        {u"c20"_s, u"The server offers no TLS."_s, u"Le serveur ne propose pas de chiffrement (TLS)."_s},
+        {u"c21"_s, u"This is no name of a server"_s, u"Ceci n’est pas un nom de serveur"_s},
+        {u"c22"_s, u"This is no port"_s, u"Ceci n’est pas un port"_s},
+        {u"c23"_s, u"No server of that name was found."_s, u"Aucun serveur de ce nom n’a été trouvé."_s},
+        {u"c24"_s, u"The server can't be reached."_s, u"Le serveur ne peut pas être joint."_s},
+        {u"c25"_s, u"The server did not answer in time."_s, u"Le serveur n’a pas répondu à temps."_s},
+        {u"c26"_s, u"The server has closed the connection."_s, u"Le serveur a fermé la connexion."_s},
+        {u"c27"_s, u"The server gave no reply."_s, u"Le serveur n’a rien répondu."_s},
+        {u"c28"_s, u"The server's reply has no end."_s, u"La réponse du serveur ne finit pas."_s},
+        {u"c29"_s, u"The file is shorter than the server announced."_s,
+         u"Le fichier est plus court que le serveur ne l’a annoncé."_s},
+        {u"c30"_s, u"The server's file is longer"_s, u"Le fichier du serveur est plus long"_s},
+        {u"c31"_s, u"A name that can't be kept here"_s, u"Ce nom n’est pas permis sur cet ordinateur"_s},
+        {u"c32"_s, u"A name must not hold a line break."_s, u"Un nom ne peut pas contenir de saut de ligne."_s},
+        {u"c33"_s, u"Folders too deep"_s, u"Trop de dossiers les uns dans les autres"_s},
+        {u"c34"_s, u"This folder can't be made"_s, u"Ce dossier ne peut pas être créé"_s},
+        {u"c35"_s, u"This folder can't be read"_s, u"Ce dossier ne peut pas être lu"_s},
+        {u"c36"_s, u"This folder's name can't be kept"_s,
+         u"Un dossier de ce nom n’est pas supprimé avec son contenu, renommez-le d’abord"_s},
+        {u"c37"_s, u"A listing that can't be read"_s, u"Cette liste de fichiers ne peut pas être lue"_s},
+        {u"c38"_s, u"Can't be deleted"_s, u"Ne peut pas être supprimé"_s},
+        {u"c39"_s, u"Read-only file system"_s, u"ce disque ne peut être que lu"_s},
     }};
     return table;
 }

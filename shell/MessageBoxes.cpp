@@ -12,12 +12,26 @@ using namespace Qt::StringLiterals;
 
 Q_LOGGING_CATEGORY(logShell, "zelvantor.shell", QtWarningMsg)
 
-void MessageBoxes::box(const QString &text, const QString &title)
+namespace {
+
+void showBox(QMessageBox::Icon icon, const QString &text, const QString &title)
 {
     qCInfo(logShell).noquote() << title << text;
-    QMessageBox message(QMessageBox::Information, title, text, QMessageBox::Ok, QApplication::activeWindow());
+    QMessageBox message(icon, title, text, QMessageBox::Ok, QApplication::activeWindow());
     message.setTextFormat(Qt::PlainText);
     message.exec();
+}
+
+} // namespace
+
+void MessageBoxes::box(const QString &text, const QString &title)
+{
+    showBox(QMessageBox::Information, text, title);
+}
+
+void MessageBoxes::warn(const QString &text, const QString &title)
+{
+    showBox(QMessageBox::Warning, text, title);
 }
 
 bool MessageBoxes::question(const QString &text, const QString &title)

@@ -7,6 +7,7 @@
 class MessageBoxes : public Messages {
 public:
     void box(const QString &text, const QString &title) override;
+    void warn(const QString &text, const QString &title) override;
     bool question(const QString &text, const QString &title) override;
     bool confirm(const QString &text, const QString &title) override;
     void alert(const QString &text) override;
