@@ -28,13 +28,14 @@ int modeOf(QStringView letters)
     return mode;
 }
 
+/// Blanks are taken at once and never given back, or a line of nothing else takes as long as its square.
 /// Owner and group may hold blanks or be missing; what counts is the date behind the size. One blank parts the date
 /// from the name, so that a name may start with more.
 std::optional<RemoteListing::Entry> unixEntry(const QString &line)
 {
     static const QRegularExpression form(
-        u"^([a-zA-Z-])([rwxsStTlL-]{9})[+.@]?\\s*\\d+\\s+(?:.*?\\s)?(?:\\d+,\\s*)?(\\d+)\\s+"
-        "((?:\\p{L}{3,4}\\.?\\s+\\d{1,2}|\\d{1,2}\\.?\\s+\\p{L}{3,4}\\.?)\\s+(?:\\d{1,2}:\\d{2}|\\d{4})"
+        u"^([a-zA-Z-])([rwxsStTlL-]{9})[+.@]?\\s*+\\d++\\s++(?:.*?\\s)?(?:\\d+,\\s*+)?(\\d++)\\s++"
+        "((?:\\p{L}{3,4}\\.?\\s++\\d{1,2}|\\d{1,2}\\.?\\s++\\p{L}{3,4}\\.?)\\s++(?:\\d{1,2}:\\d{2}|\\d{4})"
         "|\\d{4}-\\d{2}-\\d{2}\\s+\\d{2}:\\d{2}(?::\\d{2})?) (.+)$"_s);
     const QRegularExpressionMatch match = form.match(line);
     if (!match.hasMatch())

@@ -240,6 +240,10 @@ void frmFTP::editRemoteName(int row)
 void frmFTP::unmark(bool isLocalPane, const QueueItem &item)
 {
     FtpPane &pane = isLocalPane ? *m_ui->lvwLocal : *m_ui->lvwRemote;
+    if (const QTreeWidgetItem *row = pane.topLevelItem(item.Index); row && row->text(0) == item.Name) {
+        pane.mark(item.Index, false);
+        return;
+    }
     for (QTreeWidgetItem *row : pane.findItems(item.Name, Qt::MatchExactly | Qt::MatchCaseSensitive))
         pane.mark(pane.indexOfTopLevelItem(row), false);
 }

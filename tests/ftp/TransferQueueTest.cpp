@@ -211,6 +211,9 @@ void TransferQueueTest::hostileNames()
     QVERIFY(desk.remote.DoRemoteRefresh(u"/"_s));
     QVERIFY(desk.view.boxes.last().endsWith(u"lines that failed: \r\n\r\nEverything is <b>fine</b>\r\n"_s));
     QCOMPARE(int(desk.desk.remoteRows.size()), 1);
+    server.listing = QByteArray("<p>").append(QByteArray(5000, 'x')).append("\r\n").repeated(300);
+    QVERIFY(desk.remote.DoRemoteRefresh(u"/"_s));
+    QVERIFY(desk.view.boxes.last().size() < 5000); // a box with its button on the screen
     QVERIFY(desk.view.canLogout);
 }
 
