@@ -15,6 +15,7 @@ int main(int argc, char *argv[])
     QApplication application(argc, argv);
     QCoreApplication::setApplicationName(u"zelvantor"_s);
     QCoreApplication::setApplicationVersion(QStringLiteral(ZELVANTOR_VERSION));
+    QGuiApplication::setDesktopFileName(u"org.zelvantor.Zelvantor"_s);
     QApplication::setQuitOnLastWindowClosed(false);
     Skin::apply(application);
 
