@@ -24,6 +24,7 @@ ProductNumber::Taken ProductNumber::ChercherNumProduit(Connection &gCnn)
     if (taken.number) {
         const Result moved =
             gCnn.execute(u"UPDATE PARAM SET Ref_Produit = "_s + QString::number(*taken.number) + u";"_s);
+        taken.isStored = bool(moved);
         if (!moved)
             taken.failures.push_back(moved);
     }

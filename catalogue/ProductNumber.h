@@ -12,6 +12,7 @@ namespace ProductNumber {
 
 struct Taken {
     std::optional<int> number; ///< null where the store has no counter, and nothing was written
+    bool isStored = false;     ///< whether the counter stands at the number
     std::vector<Result> failures;
 };
 

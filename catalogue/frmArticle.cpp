@@ -289,7 +289,7 @@ bool frmArticle::mayOverwrite()
         return true;
     Result read;
     const std::optional<Article> present = Article::read(session().gCnn, session().glIdProduit, read);
-    if (!read || present == m_stored)
+    if (!read || (present && present == m_stored))
         return true; // a store that can't be read tells its failure at the save
     if (present)
         return session().messages->question(message(u"changed"_s), title);

@@ -1,5 +1,6 @@
 #include "catalogue/frmListProduct.h"
 
+#include "catalogue/Article.h"
 #include "catalogue/KeyCombo.h"
 #include "catalogue/ListOutput.h"
 #include "catalogue/ProductCopies.h"
@@ -189,8 +190,26 @@ void frmListProduct::emptyFilters()
         box->setCurrentIndex(-1);
 }
 
+/// The product of the row may have been deleted elsewhere. A store that can't be read is not asked again.
+bool frmListProduct::isStillThere()
+{
+    Result read;
+    if (Article::read(m_session.gCnn, m_session.glIdProduit, read))
+        return true;
+    if (!read) {
+        report({read}, u"AfficherArticle"_s);
+        return false;
+    }
+    m_session.messages->box(m_session.localisation.Traduire(u"MESSAGES"_s, u"gone"_s), title);
+    Rechercher();
+    returnTo(m_session.glIdProduit);
+    return false;
+}
+
 void frmListProduct::openProduct(int giModeProduit)
 {
+    if (giModeProduit != New && !isStillThere())
+        return;
     const int chosen = m_session.glIdProduit;
     m_session.giModeProduit = giModeProduit;
     if (giModeProduit == New)
@@ -204,9 +223,13 @@ void frmListProduct::openProduct(int giModeProduit)
 
 void frmListProduct::Dupliquer()
 {
+    if (!isStillThere())
+        return;
     const int source = m_session.glIdProduit;
     const ProductNumber::Taken taken = ProductNumber::ChercherNumProduit(m_session.gCnn);
     report(taken.failures, u"ChercherNumProduit"_s);
+    if (!taken.failures.empty() && !taken.isStored)
+        return; // nothing has changed, and a locked store would be waited for again
     if (taken.number)
         report(ProductCopies::Dupliquer(m_session.gCnn, source, *taken.number,
                                         ProductNumber::reference(*taken.number, m_session.clock.today())),

@@ -35,6 +35,7 @@ private:
     void enableRowCommands(bool enabled);
     void returnTo(int idProduit);
     void emptyFilters();
+    bool isStillThere();
     void openProduct(int giModeProduit);
     void Dupliquer();
     void supprimer();

@@ -310,7 +310,13 @@ void ArticleTest::failuresKeepWhatWasTyped()
     auto gone = desk.open(2, 6);
     QVERIFY(other->execute(u"DELETE FROM T_PRODUIT WHERE idProduit = 6"_s));
     control<QPushButton>(*gone, "cmdValider0").click();
-    QCOMPARE(desk.messages.boxes.size(), 3);
+    QVERIFY(desk.messages.boxes.last().endsWith(u"Rien n’est enregistré."_s));
+    auto never = desk.open(2, 6); // not there when it was opened
+    chooseGroup(*never);
+    control<QLineEdit>(*never, "txtRef_Article").setText(u"R"_s);
+    control<QLineEdit>(*never, "txtNom_0").setText(u"Nom"_s);
+    control<QPushButton>(*never, "cmdValider0").click();
+    QCOMPARE(desk.messages.boxes.size(), 4);
     QCOMPARE(desk.column(u"count(*)"_s, 6), u"0"_s);
     // A key that is taken: the screen stays in its mode, and attributes and prices of the other product stay too.
     const QString prices = desk.value(u"SELECT count(*) FROM T_PRODUIT_PRIX"_s);

@@ -77,6 +77,7 @@ private Q_SLOTS:
     void rowsGiveTheCommands();
     void rightsTakeCommandsAway();
     void productsAreOpenedFromTheirRow();
+    void whatIsGoneIsTold();
     void duplicatesAreComplete();
     void deletingLeavesPricesBehind();
     void widthsAreRemembered();
@@ -228,6 +229,22 @@ void ListTest::productsAreOpenedFromTheirRow()
     });
     button(*window, "cmdConsulter").click();
     QCOMPARE(visitor.waiting(), QStringList());
+}
+
+void ListTest::whatIsGoneIsTold()
+{
+    ListDesk desk;
+    auto window = desk.open();
+    const QString counter = desk.value(u"SELECT Ref_Produit FROM PARAM"_s);
+    for (const char *command : {"cmdModifier", "cmdDupliquer"}) {
+        grid(*window).setActiveCell(2, 1);
+        desk.sql(u"DELETE FROM T_PRODUIT WHERE idProduit = "_s + grid(*window).text(1, 1));
+        button(*window, command).click();
+        QCOMPARE(desk.messages.boxes, QStringList{u"ZELVANTOR|Ce produit a été supprimé ailleurs."_s});
+        desk.messages.boxes.clear();
+    }
+    QCOMPARE(keys(*window), u"3 4 5"_s);
+    QCOMPARE(desk.value(u"SELECT Ref_Produit FROM PARAM"_s), counter);
 }
 
 void ListTest::duplicatesAreComplete()
