@@ -3,7 +3,6 @@
 #include <QApplication>
 #include <QDesktopServices>
 #include <QFileDialog>
-#include <QFileInfo>
 #include <QLoggingCategory>
 #include <QMessageBox>
 #include <QUrl>
@@ -58,11 +57,16 @@ void MessageBoxes::alert(const QString &text)
 
 QString FileDialogs::saveFile(QWidget *parent, const QString &title, const QStringList &filters)
 {
-    QString chosen;
-    QString path = QFileDialog::getSaveFileName(parent, title, QString(), filters.join(u";;"_s), &chosen);
-    if (!path.isEmpty() && QFileInfo(path).suffix().isEmpty())
-        path += chosen.mid(chosen.indexOf(u"*."_s) + 1).chopped(1);
-    return path;
+    QFileDialog dialog(parent, title);
+    dialog.setAcceptMode(QFileDialog::AcceptSave);
+    dialog.setNameFilters(filters);
+    // The dialogue adds the ending itself, and so asks before it takes the name of a file that exists.
+    const auto takeEnding = [&dialog](const QString &filter) {
+        dialog.setDefaultSuffix(filter.mid(filter.indexOf(u"*."_s) + 2).chopped(1));
+    };
+    takeEnding(filters.value(0));
+    QObject::connect(&dialog, &QFileDialog::filterSelected, &dialog, takeEnding);
+    return dialog.exec() == QDialog::Accepted ? dialog.selectedFiles().value(0) : QString();
 }
 
 bool DesktopServices::open(const QString &fileOrAddress)

@@ -1,5 +1,6 @@
 #include "reference/TranslationRule.h"
 #include "reference/frmTrad.h"
+#include "shell/MessageBoxes.h"
 #include "shell/clsRegistry.h"
 #include "shell/frmAbout.h"
 #include "shell/frmMain.h"
@@ -18,8 +19,10 @@
 #include <QLabel>
 #include <QLineEdit>
 #include <QMdiArea>
+#include <QMessageBox>
 #include <QPushButton>
 #include <QTest>
+#include <QTimer>
 #include <QToolButton>
 #include <QXmlStreamReader>
 
@@ -42,6 +45,7 @@ private Q_SLOTS:
     void languageTabsTakeCodesOnly();
     void colourOfTheDesktopIsFollowed();
     void registryKeepsItsKinds();
+    void savingAsksBeforeItOverwrites();
 };
 
 /// A control whose key a language lacks would show French in the middle of another language.
@@ -331,6 +335,29 @@ void WindowsTest::registryKeepsItsKinds()
     QVERIFY(entry.WriteEntry(u"nom"_s, u"valeur"_s));
     QCOMPARE(entry.ReadEntry(u"nom"_s, u"absent"_s), u"valeur"_s);
     QCOMPARE(entry.ReadEntry(u"autre"_s, u"absent"_s), u"absent"_s);
+}
+
+void WindowsTest::savingAsksBeforeItOverwrites()
+{
+    Desk desk;
+    Files::write(desk.path(u"liste.html"_s), "x");
+    const QStringList filters = {u"Texte (*.txt)"_s, u"HTML (*.html)"_s};
+    QString asked;
+    Visitor visitor;
+    visitor.whenShown(u"QFileDialog"_s, [&](QWidget &dialog) {
+        QTest::keyClick(&control<QComboBox>(dialog, "fileTypeCombo"), Qt::Key_Down);
+        control<QLineEdit>(dialog, "fileNameEdit").setText(desk.path(u"liste"_s));
+        QTimer::singleShot(0, this, [&] {
+            if (auto *question = qobject_cast<QMessageBox *>(QApplication::activeModalWidget())) {
+                asked = question->text();
+                question->reject();
+            }
+        });
+        QMetaObject::invokeMethod(&dialog, "accept");
+        static_cast<QDialog &>(dialog).reject();
+    });
+    QCOMPARE(FileDialogs().saveFile(nullptr, u"Export"_s, filters), QString());
+    QVERIFY(asked.contains(u"liste.html"_s));
 }
 
 ZELVANTOR_SUITE(WindowsTest)
