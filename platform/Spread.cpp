@@ -18,6 +18,12 @@ bool movesRow(int key)
            || key == Qt::Key_Home || key == Qt::Key_End;
 }
 
+bool isEnter(const QKeyEvent &event)
+{
+    const bool plain = !(event.modifiers() & ~Qt::KeypadModifier);
+    return plain && (event.key() == Qt::Key_Return || event.key() == Qt::Key_Enter);
+}
+
 } // namespace
 
 Spread::Spread(QWidget *parent) : QTableView(parent), m_cells(new SpreadModel(this))
@@ -158,8 +164,38 @@ void Spread::keyPressEvent(QKeyEvent *event)
     if (m_mode == OperationMode::SingleSelect && movesRow(event->key()) && MaxRows() > 0
         && !selectionModel()->hasSelection())
         selectRow(event->key() == Qt::Key_End ? MaxRows() - 1 : std::max(0, currentIndex().row()));
+    else if (m_mode == OperationMode::Normal && (isEnter(*event) || event->key() == Qt::Key_Delete))
+        editByKey(*event);
     else
         QTableView::keyPressEvent(event);
+}
+
+/// As in a spreadsheet. Enter never reaches the default button of the window; out of an open editor it moves on when
+/// the editor closes.
+void Spread::editByKey(const QKeyEvent &event)
+{
+    if (state() == EditingState)
+        return;
+    if (isEnter(event))
+        moveDown();
+    else
+        emptyCell();
+}
+
+void Spread::moveDown()
+{
+    if (const int row = activeRow(); row < MaxRows())
+        setActiveCell(currentIndex().column() + 1, row + 1);
+}
+
+void Spread::emptyCell()
+{
+    const QModelIndex cell = currentIndex();
+    const bool isList = m_cells->columnType(cell.column() + 1) == SpreadModel::CellType::List; // never empty
+    if (isList || !(m_cells->flags(cell) & Qt::ItemIsEditable))
+        return;
+    m_cells->setText(cell.column() + 1, cell.row() + 1, {});
+    m_edited = true;
 }
 
 void Spread::focusOutEvent(QFocusEvent *event)
@@ -220,6 +256,8 @@ void Spread::closeEditor(QWidget *editor, QAbstractItemDelegate::EndEditHint hin
     } else {
         QTableView::closeEditor(editor, hint);
     }
+    if (hint == QAbstractItemDelegate::SubmitModelCache) // it was Enter that closed it
+        moveDown();
     leaveIfFocusIsGone();
 }
 

@@ -66,6 +66,9 @@ protected:
     void closeEditor(QWidget *editor, QAbstractItemDelegate::EndEditHint hint) override;
 
 private:
+    void editByKey(const QKeyEvent &event);
+    void moveDown();
+    void emptyCell();
     void leave(const QModelIndex &cell);
     void leaveIfFocusIsGone();
 

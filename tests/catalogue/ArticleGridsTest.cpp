@@ -5,6 +5,7 @@
 #include <QCheckBox>
 #include <QComboBox>
 #include <QLineEdit>
+#include <QListWidget>
 #include <QPushButton>
 #include <QTest>
 
@@ -16,6 +17,7 @@ class ArticleGridsTest : public QObject {
 private Q_SLOTS:
     void bandsOpenAndFollow();
     void attributesBelongToTheFamily();
+    void enterAndDeleteStayInTheGrid();
 };
 
 void ArticleGridsTest::bandsOpenAndFollow()
@@ -113,6 +115,34 @@ void ArticleGridsTest::attributesBelongToTheFamily()
     QCOMPARE(control<Spread>(*again, "fpSpread1").MaxRows(), 0);
     control<QPushButton>(*again, "cmdValider0").click();
     QCOMPARE(desk.value(count), u"0"_s);
+}
+
+void ArticleGridsTest::enterAndDeleteStayInTheGrid()
+{
+    ArticleDesk desk;
+    desk.sql(u"UPDATE T_PRODUIT SET bPrixQte = 1 WHERE idProduit = 1"_s);
+    auto window = desk.open(2, 1);
+    QVERIFY(QTest::qWaitForWindowActive(window.get()));
+    auto &grid = control<Spread>(*window, "fpSpread2");
+    grid.setFocus();
+    grid.setActiveCell(4, 1);
+    QTest::keyClicks(&grid, u"7"_s);
+    QTest::keyClick(QApplication::focusWidget(), Qt::Key_Return);
+    QTRY_COMPARE(grid.activeRow(), 2);
+    QCOMPARE(grid.text(4, 1), u"7"_s);
+    QTest::keyClick(&grid, Qt::Key_Return);
+    QCOMPARE(grid.activeRow(), 3);
+    grid.setActiveCell(4, 1);
+    QTest::keyClick(&grid, Qt::Key_Delete);
+    QCOMPARE(grid.text(4, 1), QString());
+    auto &pictures = control<QListWidget>(*window, "lstPicture");
+    pictures.setFocus();
+    QTest::keyClick(&pictures, Qt::Key_Return);
+    QCOMPARE(desk.desktop.opened.size(), 1);
+    auto &groups = control<QComboBox>(*window, "cbCategory");
+    groups.setFocus();
+    QTest::keyClick(&groups, Qt::Key_Return);
+    QVERIFY(control<QPushButton>(*window, "cmdValider0").isEnabled()); // a save would have disabled it
 }
 
 ZELVANTOR_SUITE(ArticleGridsTest)
