@@ -87,10 +87,11 @@ Attachments::Failures Attachments::replace(Session &session, const QStringList &
     QStringList before;
     if (const Result read = AfficherDocs(session, before); !read)
         return {{u"AfficherDocs"_s, read}};
-    if (const Result deleted = SupprimerDoc(session); !deleted)
+    const bool onlyAdds = paths.mid(0, before.size()) == before; // what stays then keeps its place in the store
+    if (const Result deleted = onlyAdds ? Result() : SupprimerDoc(session); !deleted)
         return {{u"SupprimerDoc"_s, deleted}}; // going on would write every path a second time
     Failures failures;
-    for (const QString &path : paths) {
+    for (const QString &path : onlyAdds ? paths.mid(before.size()) : paths) {
         const Result added = AjouterDoc(session, path);
         if (added)
             continue;

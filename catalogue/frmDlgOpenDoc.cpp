@@ -9,6 +9,7 @@
 #include <QApplication>
 #include <QDir>
 #include <QFileSystemModel>
+#include <QKeyEvent>
 #include <QStorageInfo>
 
 using namespace Qt::StringLiterals;
@@ -173,6 +174,16 @@ void frmDlgOpenDoc::add()
         return;
     if (const QString path = pathOf(*file); !VerifierElementListe(path))
         m_ui->lstSelected->addItem(path);
+}
+
+/// Enter on a file takes it, as a double click does, and does not validate the list as it was.
+void frmDlgOpenDoc::keyPressEvent(QKeyEvent *event)
+{
+    const bool enter = event->key() == Qt::Key_Return || event->key() == Qt::Key_Enter;
+    if (enter && m_ui->File1->hasFocus())
+        add();
+    else
+        Screen::keyPressEvent(event);
 }
 
 void frmDlgOpenDoc::validate()

@@ -23,6 +23,9 @@ public:
     /// Full path of the file that the picker validated; empty when the dialogue was left.
     const QString &chosenPath() const { return m_chosen; }
 
+protected:
+    void keyPressEvent(QKeyEvent *event) override;
+
 private:
     void openRememberedFolder();
     void wire();

@@ -128,6 +128,19 @@ void AttachmentsTest::eachKindAndSizeIsEditedApart()
     QCOMPARE(desk.rows(), QString(u" /x/petite.jpg:1 /x/deux.jpg:0 "_s + a + u":0"_s));
     edit(true, 1, u"a.png"_s);
     QCOMPARE(desk.rows(), QString(u"/x/deux.jpg:0 "_s + a + u":0 "_s + a + u":1"_s));
+    {
+        desk.about(true, 0);
+        frmDlgOpenDoc dialog(desk.session, nullptr);
+        dialog.show();
+        QVERIFY(QTest::qWaitForWindowActive(&dialog));
+        auto &files = control<QListWidget>(dialog, "File1"); // b.bmp alone
+        files.setFocus();
+        files.setCurrentRow(0);
+        QTest::keyClick(&files, Qt::Key_Return);
+        QVERIFY(dialog.isVisible());
+        control<QPushButton>(dialog, "cmdValider").click();
+    }
+    QCOMPARE(desk.rows(), QString(u"/x/deux.jpg:0 "_s + a + u":0 "_s + a + u":1 "_s + desk.folder + u"/b.bmp:0"_s));
     edit(true, 0, {});
     QCOMPARE(desk.rows(), QString(a + u":1"_s));
     QCOMPARE(desk.documents(), u"/x/notice.pdf"_s);
@@ -196,6 +209,8 @@ void AttachmentsTest::apostropheFailsAlone()
     desk.sql(u"INSERT INTO T_PRODUIT_IMAGE VALUES (900, '/x/d''avant.jpg', 0)"_s);
     frmDlgOpenDoc dialog(desk.session, nullptr);
     dialog.show();
+    control<QListWidget>(dialog, "lstSelected").setCurrentRow(0);
+    control<QPushButton>(dialog, "cmdRetirer").click();
     add(dialog, allPictures, u"l'été.png"_s);
     control<QListWidget>(dialog, "lstSelected").addItem(cunning);
     add(dialog, allPictures, u"a.png"_s);
@@ -205,7 +220,7 @@ void AttachmentsTest::apostropheFailsAlone()
     QCOMPARE(selected(dialog), before);
     QVERIFY(desk.messages.boxes.size() == 3 && desk.messages.boxes.filter(u"AjouterDoc|1: "_s).size() == 3);
     QVERIFY(desk.messages.boxes.at(1).contains(u"l'été.png"_s));
-    const QString kept = u" /x/petite.jpg:1 /x/un.jpg:0 /x/deux.jpg:0 /x/d'avant.jpg:0 "_s;
+    const QString kept = u" /x/petite.jpg:1 /x/deux.jpg:0 /x/d'avant.jpg:0 "_s;
     QCOMPARE(desk.rows(), QString(kept + desk.folder + u"/a.png:0"_s));
     QVERIFY(desk.value(u"SELECT count(*) FROM T_PRODUIT"_s).toInt() > 80);
 }
