@@ -166,7 +166,8 @@ void frmListProduct::enableRowCommands(bool enabled)
         command->setEnabled(enabled && mayUse(*command));
 }
 
-/// Back to the row of a product, which may have moved; where it is gone no row is chosen.
+/// Back to the row of a product, which may have moved; where it is gone no row is chosen, and the keys go on from the
+/// one in its place.
 void frmListProduct::returnTo(int idProduit)
 {
     Spread &grid = *m_ui->fpSpread1;
@@ -179,7 +180,8 @@ void frmListProduct::returnTo(int idProduit)
     if (row <= grid.MaxRows())
         grid.setActiveCell(Reference, row);
     else if (grid.MaxRows() > 0)
-        grid.scrollTo(grid.cells().index(std::min(m_iLigne, grid.MaxRows()) - 1, Reference - 1));
+        grid.selectionModel()->setCurrentIndex(
+            grid.cells().index(std::min(m_iLigne, grid.MaxRows()) - 1, Reference - 1), QItemSelectionModel::NoUpdate);
 }
 
 void frmListProduct::emptyFilters()

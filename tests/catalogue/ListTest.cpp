@@ -296,6 +296,8 @@ void ListTest::deletingLeavesPricesBehind()
     button(*window, "cmdSupprimer").click();
     QCOMPARE(keys(*window), u"1 3 4 5"_s);
     QCOMPARE(enabled(*window), u"10000"_s);
+    QTest::keyClick(&grid(*window), Qt::Key_Down);
+    QCOMPARE(desk.session.glIdProduit, 3); // in its place
     QCOMPARE(desk.value(u"SELECT count(*) FROM T_PRODUIT_PRIX WHERE idProduit = 2"_s), u"1"_s);
     QCOMPARE(desk.value(u"SELECT count(*) FROM T_PRODUIT_IMAGE WHERE idProduit = 2"_s), u"0"_s);
 }
