@@ -80,3 +80,21 @@ std::vector<Result> ProductRows::writeAttributes(Connection &gCnn, int glIdProdu
                           + u", "_s + product + u" , "_s + ProtegerTexte(oneLine(attribute.sValeur)) + u"); "_s;
     return gCnn.executeAll(statements);
 }
+
+QStringList ProductRows::readStored(Connection &gCnn, int glIdProduit, Result &result)
+{
+    const QString product = QString::number(glIdProduit);
+    const QStringList statements = {
+        u"SELECT iQte1, iQte2, idTva, sPrixHT, sPrixTTC FROM T_PRODUIT_PRIX WHERE idProduit = "_s + product,
+        u"SELECT idRef_Categorie, sValeur FROM REF_EXTENSION WHERE idRef_Produit = "_s + product};
+    QStringList texts;
+    for (const QString &statement : statements) {
+        Reader rows = gCnn.read(statement);
+        while (rows.next())
+            for (int column = 0; column < rows.columnCount(); ++column)
+                texts << rows.text(column);
+        if (!rows.result())
+            result = rows.result();
+    }
+    return texts;
+}

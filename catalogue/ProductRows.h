@@ -40,4 +40,7 @@ QString ChercherValeur(Connection &gCnn, const QString &attribute, int glIdProdu
 /// Rewrites the values of a product, empty ones included.
 std::vector<Result> writeAttributes(Connection &gCnn, int glIdProduit, const std::vector<Attribute> &attributes);
 
+/// All rows of both kinds as they are stored, to find out later whether somebody else has changed them.
+QStringList readStored(Connection &gCnn, int glIdProduit, Result &result);
+
 } // namespace ProductRows

@@ -15,6 +15,8 @@
 #include "shell/Screens.h"
 #include "ui_frmArticle.h"
 
+#include <QKeyEvent>
+
 using namespace Qt::StringLiterals;
 using Field = PriceChain::Field;
 
@@ -51,6 +53,14 @@ frmArticle::~frmArticle() = default;
 void frmArticle::textsLoaded()
 {
     ArticleControls::giveCurrency(session().gsMonnaie, *this);
+}
+
+/// Enter in a list opens its file and in a combo does nothing; neither saves the product.
+void frmArticle::keyPressEvent(QKeyEvent *event)
+{
+    const bool enter = event->key() == Qt::Key_Return || event->key() == Qt::Key_Enter;
+    if (!enter || !(qobject_cast<QListWidget *>(focusWidget()) || qobject_cast<QComboBox *>(focusWidget())))
+        Screen::keyPressEvent(event);
 }
 
 bool frmArticle::isMode(Mode mode) const
@@ -155,8 +165,8 @@ void frmArticle::startNewProduct()
 void frmArticle::AfficherArticle()
 {
     Result read;
-    m_stored = Article::read(session().gCnn, session().glIdProduit, read);
-    const Article article = m_stored.value_or(Article());
+    m_stored = readStored(read);
+    const Article article = m_stored.article.value_or(Article());
     if (!read)
         report({read}, u"AfficherArticle"_s);
     ArticleControls::show(article, *this);
@@ -282,16 +292,25 @@ void frmArticle::save()
     session().gbRafraichirListe = true;
 }
 
+frmArticle::Stored frmArticle::readStored(Result &read) const
+{
+    Connection &gCnn = session().gCnn;
+    Stored stored{Article::read(gCnn, session().glIdProduit, read), {}};
+    if (read)
+        stored.rows = ProductRows::readStored(gCnn, session().glIdProduit, read);
+    return stored;
+}
+
 /// A product that somebody else has changed or deleted since it was opened is not overwritten without a word.
 bool frmArticle::mayOverwrite()
 {
     if (!isMode(Modify))
         return true;
     Result read;
-    const std::optional<Article> present = Article::read(session().gCnn, session().glIdProduit, read);
-    if (!read || (present && present == m_stored))
+    const Stored present = readStored(read);
+    if (!read || (present.article && present == m_stored))
         return true; // a store that can't be read tells its failure at the save
-    if (present)
+    if (present.article)
         return session().messages->question(message(u"changed"_s), title);
     session().messages->box(message(u"deleted"_s), title);
     return false;
@@ -325,7 +344,7 @@ void frmArticle::saved()
 {
     if (!isMode(New)) {
         Result read;
-        m_stored = Article::read(session().gCnn, session().glIdProduit, read);
+        m_stored = readStored(read);
         m_ui->cmdEtiquette->setEnabled(true);
     } else {
         if (session().messages->question(message(u"119"_s), title))

@@ -26,8 +26,18 @@ public:
 
     void textsLoaded() override;
 
+protected:
+    void keyPressEvent(QKeyEvent *event) override;
+
 private:
     enum Mode { New = 1, Modify, Consult };
+
+    /// What the store holds of the product, all that a save would overwrite.
+    struct Stored {
+        std::optional<Article> article;
+        QStringList rows;
+        bool operator==(const Stored &) const = default;
+    };
 
     bool isMode(Mode mode) const;
     void fillCombos();
@@ -45,6 +55,7 @@ private:
     void chooseFamily();
     void chooseTvaV();
     bool isComplete();
+    Stored readStored(Result &read) const;
     bool mayOverwrite();
     void save();
     Result AjouterArticle();
@@ -65,7 +76,7 @@ private:
     std::unique_ptr<KeyCombo> m_colTvaV;
     BarcodeReader *m_reader;
     PrintEngine VPE1;
-    std::optional<Article> m_stored; ///< as it was when this screen last read or wrote it
-    QString m_sCategorie;            ///< the shown names, written beside the keys
+    Stored m_stored;      ///< as it was when this screen last read or wrote it
+    QString m_sCategorie; ///< the shown names, written beside the keys
     QString m_sFamille;
 };

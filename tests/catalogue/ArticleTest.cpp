@@ -306,7 +306,12 @@ void ArticleTest::failuresKeepWhatWasTyped()
     desk.messages.answer = true;
     control<QPushButton>(*window, "cmdValider0").click();
     QCOMPARE(desk.column(u"sNomFR"_s, 5), u"Encore"_s);
-    QCOMPARE(desk.messages.boxes.size(), 2);
+    desk.messages.answer = false;
+    QVERIFY(other->execute(u"INSERT INTO T_PRODUIT_PRIX VALUES (5, 1, 9, 0, '99', '99', NULL)"_s));
+    control<QLineEdit>(*window, "txtNom_0").setText(u"Sans prix"_s);
+    control<QPushButton>(*window, "cmdValider0").click();
+    QCOMPARE(desk.column(u"sNomFR"_s, 5), u"Encore"_s);
+    QCOMPARE(desk.messages.boxes.size(), 3);
     auto gone = desk.open(2, 6);
     QVERIFY(other->execute(u"DELETE FROM T_PRODUIT WHERE idProduit = 6"_s));
     control<QPushButton>(*gone, "cmdValider0").click();
@@ -316,7 +321,7 @@ void ArticleTest::failuresKeepWhatWasTyped()
     control<QLineEdit>(*never, "txtRef_Article").setText(u"R"_s);
     control<QLineEdit>(*never, "txtNom_0").setText(u"Nom"_s);
     control<QPushButton>(*never, "cmdValider0").click();
-    QCOMPARE(desk.messages.boxes.size(), 4);
+    QCOMPARE(desk.messages.boxes.size(), 5);
     QCOMPARE(desk.column(u"count(*)"_s, 6), u"0"_s);
     // A key that is taken: the screen stays in its mode, and attributes and prices of the other product stay too.
     const QString prices = desk.value(u"SELECT count(*) FROM T_PRODUIT_PRIX"_s);
