@@ -10,6 +10,14 @@ namespace {
 
 enum Column { Quantity = 3, PurchasePrice = 10, SalePrice = 12, Read = 13 };
 
+/// Letter by letter: a "ß" stays one, as it does where the store compares.
+QString upperCase(QString text)
+{
+    for (QChar &letter : text)
+        letter = letter.toUpper();
+    return text;
+}
+
 } // namespace
 
 QString ProductSearch::ConstruireWhereSql(const Filters &filters)
@@ -18,7 +26,7 @@ QString ProductSearch::ConstruireWhereSql(const Filters &filters)
     const QString table = u"T_PRODUIT"_s;
     const auto startsWith = [&](const QString &field, const QString &typed) {
         if (!typed.trimmed().isEmpty())
-            builder.AddSimpleWhereClause(field, typed.trimmed().toUpper(), table, clsSmartSQL::StartsWith);
+            builder.AddSimpleWhereClause(field, upperCase(typed.trimmed()), table, clsSmartSQL::StartsWith);
     };
     const auto equals = [&](const QString &field, const std::optional<int> &key) {
         if (key)

@@ -94,6 +94,8 @@ void ListTest::filters_data()
     QTest::newRow("reference") << Filters{u" ab "_s, {}, {}, {}, {}} << u"WHERE ( (T_PRODUIT.sRef LIKE 'AB%'));"_s;
     QTest::newRow("brand with a quote") << Filters{{}, u"l'é"_s, {}, {}, {}}
                                         << u"WHERE ( (T_PRODUIT.sMarque LIKE 'L''É%'));"_s;
+    QTest::newRow("one letter stays one")
+        << Filters{u"straß"_s, {}, {}, {}, {}} << u"WHERE ( (T_PRODUIT.sRef LIKE 'STRAß%'));"_s;
     QTest::newRow("all")
         << Filters{u"1"_s, u"b"_s, 7, 8, 9}
         << u"WHERE ( (T_PRODUIT.sRef LIKE '1%') AND (T_PRODUIT.sMarque LIKE 'B%') AND "
