@@ -104,7 +104,8 @@ void frmListProduct::wire()
     });
 }
 
-/// Keys of the whole window, keys of the grid that a text box needs for itself, and Enter in a filter.
+/// Keys of the whole window, keys of the grid that a text box needs for itself, and Enter in a filter, where a button
+/// that has the focus takes its own.
 void frmListProduct::wireKeys()
 {
     const auto press = [](QWidget *where, const QKeySequence &keys, QPushButton *button) {
@@ -121,7 +122,10 @@ void frmListProduct::wireKeys()
     press(this, QKeySequence::Print, m_ui->cmdImprimer);
     for (const Qt::Key enter : {Qt::Key_Return, Qt::Key_Enter}) {
         press(m_ui->fpSpread1, enter, m_ui->cmdModifier);
-        press(m_ui->frFiltre, enter, m_ui->CmdRechPort);
+        auto *shortcut = new QShortcut(enter, m_ui->frFiltre);
+        shortcut->setContext(Qt::WidgetWithChildrenShortcut);
+        connect(shortcut, &QShortcut::activated, this,
+                [this] { (m_ui->Cmdinitialiser->hasFocus() ? m_ui->Cmdinitialiser : m_ui->CmdRechPort)->click(); });
     }
     press(m_ui->fpSpread1, Qt::Key_Insert, m_ui->cmdAjouter);
     press(m_ui->fpSpread1, Qt::Key_Delete, m_ui->cmdSupprimer);
