@@ -17,6 +17,7 @@ struct Band {
     QString prixTTC;
     QString iQte1;
     QString iQte2;
+    bool operator==(const Band &) const = default;
 };
 
 std::vector<Band> readBands(Connection &gCnn, int glIdProduit, Result &result);
@@ -31,6 +32,7 @@ struct Attribute {
     QString sListe;
     QString idListe;
     QString sValeur;
+    bool operator==(const Attribute &) const = default;
 };
 
 std::vector<Attribute> readAttributes(Connection &gCnn, int glIdFamille, Result &result);

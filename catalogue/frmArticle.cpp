@@ -46,6 +46,7 @@ frmArticle::frmArticle(Session &screenSession, QWidget *parent)
     fillCombos();
     openInMode();
     m_prices->chain().bChargement = false;
+    m_opened = entries();
 }
 
 frmArticle::~frmArticle() = default;
@@ -55,12 +56,25 @@ void frmArticle::textsLoaded()
     ArticleControls::giveCurrency(session().gsMonnaie, *this);
 }
 
-/// Enter in a list opens its file and in a combo does nothing; neither saves the product.
+/// Enter in a list opens its file and in a combo does nothing; neither saves the product. Escape asks before it throws
+/// away what was typed.
 void frmArticle::keyPressEvent(QKeyEvent *event)
 {
+    if (event->key() == Qt::Key_Escape && !mayLeave())
+        return;
     const bool enter = event->key() == Qt::Key_Return || event->key() == Qt::Key_Enter;
     if (!enter || !(qobject_cast<QListWidget *>(focusWidget()) || qobject_cast<QComboBox *>(focusWidget())))
         Screen::keyPressEvent(event);
+}
+
+bool frmArticle::mayLeave() const
+{
+    return entries() == m_opened || session().messages->question(message(u"leave"_s), title);
+}
+
+frmArticle::Entries frmArticle::entries() const
+{
+    return {takeArticle(), m_bands->bands(), m_attributes->attributes()};
 }
 
 bool frmArticle::isMode(Mode mode) const
@@ -110,6 +124,8 @@ void frmArticle::wire()
     ArticleControls::keepCapital(*m_ui->txtMarque);
     connect(m_ui->cmdTrans, &QToolButton::clicked, this,
             [this] { m_ui->txtEan->setText(Ean13::fromReference(m_ui->txtRef_Article->text())); });
+    // A person may pick the rate that is chosen already, for the rows that have another.
+    connect(m_ui->cbTvaV, &QComboBox::activated, this, [this](int position) { m_bands->chooseRate(position); });
     connect(m_reader, &BarcodeReader::codeRead, m_ui->txtEan, &QLineEdit::setText);
     connect(m_ui->chPrix, &QCheckBox::toggled, this, [this](bool shown) {
         m_ui->fpSpread2->setVisible(shown);
@@ -321,7 +337,16 @@ Result frmArticle::AjouterArticle()
 {
     if (isMode(Consult))
         return {};
-    Session &values = session();
+    Article article = takeArticle();
+    if (isMode(New))
+        return session().gCnn.execute(article.insertStatement());
+    article.setText(u"dDate_modification"_s, today());
+    return session().gCnn.execute(article.updateStatement());
+}
+
+Article frmArticle::takeArticle() const
+{
+    const Session &values = session();
     Article article;
     ArticleControls::take(article, *this);
     m_prices->take(article);
@@ -334,10 +359,7 @@ Result frmArticle::AjouterArticle()
     article.setNumber(u"idUnite"_s, m_ui->cbUnite->currentIndex());
     article.setText(u"sCategorie"_s, m_sCategorie);
     article.setText(u"sFamille"_s, m_sFamille);
-    if (isMode(New))
-        return values.gCnn.execute(article.insertStatement());
-    article.setText(u"dDate_modification"_s, today());
-    return values.gCnn.execute(article.updateStatement());
+    return article;
 }
 
 void frmArticle::saved()
@@ -351,6 +373,7 @@ void frmArticle::saved()
             session().screens->showLabels(ProductPaper::label(*this), this);
         Initialiser();
     }
+    m_opened = entries();
     m_ui->cmdValider0->setEnabled(false);
 }
 

@@ -1,5 +1,6 @@
 #pragma once
 #include "catalogue/Article.h"
+#include "catalogue/ProductRows.h"
 #include "platform/PrintEngine.h"
 #include "shell/Screen.h"
 
@@ -39,6 +40,14 @@ private:
         bool operator==(const Stored &) const = default;
     };
 
+    /// What stands in the controls.
+    struct Entries {
+        Article article;
+        std::vector<ProductRows::Band> bands;
+        std::vector<ProductRows::Attribute> attributes;
+        bool operator==(const Entries &) const = default;
+    };
+
     bool isMode(Mode mode) const;
     void fillCombos();
     void wire();
@@ -55,6 +64,9 @@ private:
     void chooseFamily();
     void chooseTvaV();
     bool isComplete();
+    Article takeArticle() const;
+    Entries entries() const;
+    bool mayLeave() const;
     Stored readStored(Result &read) const;
     bool mayOverwrite();
     void save();
@@ -76,6 +88,7 @@ private:
     std::unique_ptr<KeyCombo> m_colTvaV;
     BarcodeReader *m_reader;
     PrintEngine VPE1;
+    Entries m_opened;     ///< as they were when the screen was opened or last saved
     Stored m_stored;      ///< as it was when this screen last read or wrote it
     QString m_sCategorie; ///< the shown names, written beside the keys
     QString m_sFamille;

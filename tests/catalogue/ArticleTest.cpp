@@ -59,6 +59,7 @@ private Q_SLOTS:
     void failuresKeepWhatWasTyped();
     void oddEntries();
     void counterStartsOver();
+    void escapeAsksOnceSomethingIsTyped();
 };
 
 void ArticleTest::everyFieldComesBack()
@@ -378,6 +379,19 @@ void ArticleTest::counterStartsOver()
     QCOMPARE(desk.value(u"SELECT Ref_Produit FROM PARAM"_s), u"1"_s);
     desk.sql(u"UPDATE PARAM SET Ref_Produit = NULL"_s);
     QVERIFY(shown(*desk.open(1), "txtRef_Article").startsWith(u"00001/"_s));
+}
+
+void ArticleTest::escapeAsksOnceSomethingIsTyped()
+{
+    ArticleDesk desk;
+    desk.messages.answer = false;
+    auto window = desk.open(2, 5);
+    control<QLineEdit>(*window, "txtMarque").setText(u"AUTRE"_s);
+    QTest::keyClick(window.get(), Qt::Key_Escape);
+    QVERIFY(window->isVisible() && desk.messages.boxes.size() == 1);
+    auto untouched = desk.open(2, 5);
+    QTest::keyClick(untouched.get(), Qt::Key_Escape);
+    QVERIFY(!untouched->isVisible());
 }
 
 ZELVANTOR_SUITE(ArticleTest)
