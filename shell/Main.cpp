@@ -6,6 +6,7 @@
 #include "shell/Causes.h"
 #include "shell/Login.h"
 #include "shell/OneProgram.h"
+#include "shell/ToolkitTexts.h"
 #include "shell/frmDbPath.h"
 #include "shell/frmLogin.h"
 #include "shell/frmMain.h"
@@ -107,6 +108,7 @@ std::unique_ptr<frmMain> Main(Session &session)
 {
     if (!readRegionalSettings(session))
         return nullptr;
+    ToolkitTexts::load(session.localisation.gsLangue);
     if (const Result registered = registerDataSource(session.settings, QString()); !registered)
         session.messages->box(Causes::message(registered, session.localisation), u"ZELVANTOR"_s);
     if (!findStore(session))

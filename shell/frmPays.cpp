@@ -2,6 +2,7 @@
 
 #include "platform/Messages.h"
 #include "shell/Causes.h"
+#include "shell/ToolkitTexts.h"
 #include "ui_frmPays.h"
 
 using namespace Qt::StringLiterals;
@@ -68,5 +69,6 @@ void frmPays::validate()
     session().gsPays = country;
     session().localisation.gsLangue = language;
     session().gsMonnaie = currency;
+    ToolkitTexts::load(language);
     accept();
 }

@@ -98,6 +98,7 @@ void WindowsTest::languageChangeTurnsTheMainWindow()
     QCOMPARE(visitor.waiting(), QStringList());
     QCOMPARE(bar.headerCaption(1), u"ZELVANTOR"_s);
     QCOMPARE(bar.itemCaption(2, 5), u"Gruppen"_s);
+    QCOMPARE(QMessageBox(QMessageBox::Question, {}, {}, QMessageBox::Yes).button(QMessageBox::Yes)->text(), u"&Ja"_s);
     QCOMPARE(control<QAction>(window, "mnuHoriz").text().remove(u'&'), u"Nebeneinander"_s);
     QCOMPARE(window.windowTitle(), u"ZELVANTOR"_s);
     QCOMPARE(desk.setting(u"LANGUE"_s), u"DE"_s);
