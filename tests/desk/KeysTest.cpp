@@ -19,6 +19,7 @@
 
 #include <QComboBox>
 #include <QLabel>
+#include <QMdiArea>
 #include <QMenuBar>
 #include <QPushButton>
 #include <QSet>
@@ -166,6 +167,8 @@ void KeysTest::mnemonicsAreUnique()
         desk.session.localisation.gsLangue = language;
         const auto shown = windows[window].second(desk.session);
         shown->show();
+        if (auto *frame = shown->findChild<QMdiArea *>(u"mdi"_s))
+            desk.screens.showProducts(frame); // its keys and those of the menu count together
         onEveryTab(*shown, [&](const QString &tab) {
             QHash<QChar, QString> taken;
             const auto take = [&](const QString &text) {
