@@ -16,6 +16,9 @@ public:
     frmTrad(Session &session, const QString &Tag, const QString &caption, QWidget *parent);
     ~frmTrad() override;
 
+    /// A second one over the same texts would undo the work of the first.
+    bool isTranslatable() const override { return false; }
+
     /// Fills the grid with the keys that have a text.
     void Afficher();
     /// Writes the grid back.

@@ -43,13 +43,18 @@ void ScreenManners::apply(QWidget &window, Session &session)
     window.restoreGeometry(stored(u"Geometry"_s));
     for (QSplitter *splitter : window.findChildren<QSplitter *>())
         splitter->restoreState(stored(splitter->objectName()));
+    if (!window.isWindow())
+        return; // the frame has the key and passes it on
     auto *shortcut = new QShortcut(QKeySequence(Qt::Key_F12), &window);
     QObject::connect(shortcut, &QShortcut::activated, &window, [&] { translate(window, session); });
 }
 
 void ScreenManners::translate(QWidget &window, Session &session)
 {
-    if (!window.property("Tag").toString().isEmpty() && session.screens && session.screens->translate(&window))
+    const auto *screen = qobject_cast<Screen *>(&window);
+    if (window.property("Tag").toString().isEmpty() || (screen && !screen->isTranslatable()))
+        return;
+    if (session.screens && session.screens->translate(&window))
         loadTexts(window, session);
 }
 
@@ -89,7 +94,7 @@ void Screen::mousePressEvent(QMouseEvent *event)
 
 void Screen::contextMenuEvent(QContextMenuEvent *event)
 {
-    if (event->modifiers() == Qt::ControlModifier)
+    if (event->modifiers() == Qt::ControlModifier || !isTranslatable())
         return;
     QMenu menu(this);
     menu.addAction(translateText(m_session), this, [this] { ScreenManners::translate(*this, m_session); });

@@ -26,6 +26,7 @@ public:
     void done(int result) override;
     /// Called when the texts of the language file have been given; what they must not change is set here.
     virtual void textsLoaded() {}
+    virtual bool isTranslatable() const { return true; }
 
 protected:
     void opened();

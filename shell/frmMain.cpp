@@ -164,12 +164,22 @@ void frmMain::wireMenus()
     connect(m_ui->mnucascade, &QAction::triggered, m_ui->mdi, &QMdiArea::cascadeSubWindows);
     connect(m_ui->miHelp, &QAction::triggered, this, &frmMain::openHelp);
     connect(m_ui->mn_homepage, &QAction::triggered, this, [this] { m_session.desktop->open(homePage); });
-    connect(m_ui->miTraduire, &QAction::triggered, this, [this] {
-        ScreenManners::translate(*this, m_session);
-        ChangerLangue();
-        setWindowTitle(title);
-    });
+    connect(m_ui->miTraduire, &QAction::triggered, this, [this] { translate(windowAtWork()); });
     connect(m_ui->miAbout, &QAction::triggered, this, [this] { frmAbout(m_session, this).exec(); });
+}
+
+/// The child window that has the focus, else this one: the key of the menu is the key of both.
+QWidget &frmMain::windowAtWork()
+{
+    const QMdiSubWindow *child = m_ui->mdi->activeSubWindow();
+    return child && child->isAncestorOf(focusWidget()) ? *child->widget() : *this;
+}
+
+void frmMain::translate(QWidget &window)
+{
+    ScreenManners::translate(window, m_session);
+    ChangerLangue();
+    setWindowTitle(title);
 }
 
 void frmMain::dispatch(const QString &key)
@@ -255,7 +265,7 @@ void frmMain::closeEvent(QCloseEvent *event)
 void frmMain::mousePressEvent(QMouseEvent *event)
 {
     if (event->button() == Qt::RightButton && event->modifiers() == Qt::ControlModifier)
-        m_ui->miTraduire->trigger();
+        translate(*this);
     else
         QMainWindow::mousePressEvent(event);
 }

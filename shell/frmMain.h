@@ -38,6 +38,8 @@ protected:
 
 private:
     void wireMenus();
+    QWidget &windowAtWork();
+    void translate(QWidget &window);
     void readPosition();
     void dispatch(const QString &key);
     void showRegional();

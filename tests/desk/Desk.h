@@ -41,6 +41,7 @@ public:
     void whenShown(const QString &window, std::function<void(QWidget &)> action);
     /// Names of the windows whose turn never came.
     QStringList waiting() const;
+    void forget() { m_steps.clear(); }
     bool eventFilter(QObject *object, QEvent *event) override;
 
 private:

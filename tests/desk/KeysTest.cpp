@@ -121,6 +121,7 @@ private Q_SLOTS:
     void mnemonicsAreUnique();
     void tabLeavesTheLastCell();
     void enterDoesNotGenerate();
+    void translationsOfTheWindowAtHand();
 };
 
 void KeysTest::tabReachesEveryControl_data()
@@ -219,6 +220,32 @@ void KeysTest::enterDoesNotGenerate()
     for (const char *name : {"txtTitre", "lstControle", "fpSpread2"})
         QTest::keyClick(&control<QWidget>(window, name), Qt::Key_Return);
     QCOMPARE(desk.desktop.opened, QStringList());
+}
+
+void KeysTest::translationsOfTheWindowAtHand()
+{
+    Desk desk;
+    desk.openSample();
+    frmMain window(desk.session);
+    window.show();
+    desk.screens.showProducts(&control<QMdiArea>(window, "mdi"));
+    QStringList sections;
+    Visitor visitor;
+    for (const char *place : {"txtMarque", "produit"}) {
+        visitor.whenShown(u"frmTrad"_s, [&](QWidget &first) {
+            sections << first.property("Tag").toString();
+            visitor.whenShown(u"frmTrad"_s, [](QWidget &second) { second.close(); });
+            QTest::keyClick(&first, Qt::Key_F12);
+            first.close();
+        });
+        window.activateWindow();
+        QVERIFY(QTest::qWaitForWindowActive(&window));
+        control<QWidget>(window, place).setFocus();
+        QTest::keyClick(&control<QWidget>(window, place), Qt::Key_F12);
+        QCOMPARE(visitor.waiting(), QStringList{u"frmTrad"_s}); // never the second one
+        visitor.forget();
+    }
+    QCOMPARE(sections, (QStringList{u"LISTPROD"_s, u"MAIN"_s}));
 }
 
 ZELVANTOR_SUITE(KeysTest)
