@@ -12,6 +12,7 @@
 #include "catalogue/ProductPaper.h"
 #include "platform/BarcodeReader.h"
 #include "platform/Messages.h"
+#include "shell/Causes.h"
 #include "shell/Screens.h"
 #include "ui_frmArticle.h"
 
@@ -380,7 +381,7 @@ void frmArticle::saved()
 void frmArticle::report(const std::vector<Result> &failures, const QString &method) const
 {
     for (const Result &failure : failures)
-        session().messages->box(failure.message(), method);
+        session().messages->box(Causes::message(failure, session().localisation), method);
 }
 
 QString frmArticle::message(const QString &key) const

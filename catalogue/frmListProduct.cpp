@@ -8,6 +8,7 @@
 #include "catalogue/frmArticle.h"
 #include "platform/ColumnWidths.h"
 #include "platform/Messages.h"
+#include "shell/Causes.h"
 #include "shell/Login.h"
 #include "ui_frmListProduct.h"
 
@@ -256,7 +257,7 @@ void frmListProduct::supprimer()
 void frmListProduct::report(const std::vector<Result> &failures, const QString &method) const
 {
     for (const Result &failure : failures)
-        m_session.messages->box(failure.message(), method);
+        m_session.messages->box(Causes::message(failure, m_session.localisation), method);
 }
 
 void frmListProduct::closeEvent(QCloseEvent *event)

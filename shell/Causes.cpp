@@ -15,9 +15,9 @@ struct Cause {
     QString french;
 };
 
-const std::array<Cause, 41> &causes()
+const std::array<Cause, 48> &causes()
 {
-    static const std::array<Cause, 41> table = {{
+    static const std::array<Cause, 48> table = {{
         {u"c1"_s, u"No such file or directory"_s, u"fichier introuvable"_s},
         {u"c2"_s, u"Permission denied"_s, u"accès refusé"_s},
         {u"c3"_s, u"No space left on device"_s, u"plus de place sur le disque"_s},
@@ -61,6 +61,13 @@ const std::array<Cause, 41> &causes()
         {u"c37"_s, u"A listing that can't be read"_s, u"Cette liste de fichiers ne peut pas être lue"_s},
         {u"c38"_s, u"Can't be deleted"_s, u"Ne peut pas être supprimé"_s},
         {u"c39"_s, u"Read-only file system"_s, u"ce disque ne peut être que lu"_s},
+        {u"c40"_s, u"File name too long"_s, u"nom de fichier trop long"_s},
+        {u"c41"_s, u"database is locked"_s, u"la base de données est utilisée par un autre programme"_s},
+        {u"c42"_s, u"attempt to write a readonly database"_s, u"la base de données ne peut être que lue"_s},
+        {u"c43"_s, u"database disk image is malformed"_s, u"la base de données est endommagée"_s},
+        {u"c44"_s, u"file is not a database"_s, u"ce fichier n’est pas une base de données"_s},
+        {u"c3"_s, u"database or disk is full"_s, u"plus de place sur le disque"_s},
+        {u"c45"_s, u"deleted elsewhere: "_s, u"cette ligne a été supprimée ailleurs : "_s},
     }};
     return table;
 }
@@ -74,7 +81,10 @@ QString Causes::text(const QString &cause, const Localisation &localisation)
     for (const Cause &known : causes()) {
         if (!cause.startsWith(known.platformText))
             continue;
-        return windows.textOr(u"RUN"_s, known.key, known.french) + cause.mid(known.platformText.size());
+        const QString words = windows.textOr(u"RUN"_s, known.key, known.french);
+        // A language file keeps no blank at the end of a text.
+        const bool isApart = known.platformText.endsWith(u' ') && !words.endsWith(u' ');
+        return words + (isApart ? u" "_s : QString()) + cause.mid(known.platformText.size());
     }
     return cause;
 }
