@@ -22,6 +22,7 @@ const QString stored = u"OLD"_s;
 const QString added = u"NEW"_s;
 const QString changed = u"MOD"_s;
 const QString title = u"Stilvendra"_s;
+constexpr qsizetype mostLines = 5; // of a box about rows that failed
 
 } // namespace
 
@@ -164,14 +165,23 @@ void DetailPane::change()
     finishRow();
 }
 
+/// No row is chosen any more, and the next one gets nothing of it.
+void DetailPane::leaveRow()
+{
+    m_grid->clearSelection();
+    m_nRowSel = 0;
+    m_code->clear();
+    m_label->clear();
+    if (m_list)
+        m_list->setCurrentIndex(-1);
+    m_change->setEnabled(false);
+    m_remove->setEnabled(false);
+}
+
 /// Ready for the next row.
 void DetailPane::finishRow()
 {
-    m_code->clear();
-    m_label->clear();
-    m_grid->clearSelection();
-    m_change->setEnabled(false);
-    m_remove->setEnabled(false);
+    leaveRow();
     m_label->setFocus();
     m_validate->setEnabled(true);
     m_bModifie = true;
@@ -184,19 +194,15 @@ void DetailPane::remove()
     const QString id = m_grid->text(Id, m_nRowSel);
     if (!m_session.messages->question(u"Etes vous sûr de vouloir supprimer la ligne sélectionnée?"_s, title))
         return;
-    if (!id.isEmpty()) {
+    if (!id.isEmpty()) { // a changed row too: left in the store it would be back at the next opening
         if (const Result done = m_table.remove(m_session.gCnn, id); !done) {
-            m_session.messages->box(done.message(), u"SupprimerFParam"_s);
+            m_session.messages->box(Causes::message(done, m_session.localisation), u"SupprimerFParam"_s);
             return;
         }
         m_bModifie = true;
     }
     m_grid->cells().deleteRow(m_nRowSel);
-    m_code->clear();
-    m_label->clear();
-    m_nRowSel = 0;
-    m_change->setEnabled(false);
-    m_remove->setEnabled(false);
+    leaveRow();
 }
 
 std::vector<Result> DetailPane::AjouterFParam()
@@ -228,8 +234,11 @@ std::vector<Result> DetailPane::AjouterFParam()
 void DetailPane::validate()
 {
     const std::vector<Result> failures = AjouterFParam();
+    QStringList lines;
     for (const Result &failure : failures)
-        m_session.messages->box(Causes::message(failure, m_session.localisation), u"AjouterFParam"_s);
+        lines << Causes::message(failure, m_session.localisation);
+    if (!lines.isEmpty())
+        m_session.messages->box(lines.mid(0, mostLines).join(u'\n'), u"AjouterFParam"_s);
     m_bModifie = true;
     if (failures.empty())
         m_screen.accept();

@@ -33,6 +33,7 @@ private:
     std::vector<Result> AjouterFParam();
     bool hasLabel();
     DetailRow takeBoxes() const;
+    void leaveRow();
     void finishRow();
     DetailRow rowAt(int row) const;
     void setRow(int row, const DetailRow &values, const QString &mark);

@@ -21,6 +21,7 @@ QString quoted(const QString &text)
 } // namespace
 
 const QString DetailTable::apostropheInCode = u"apostrophe: "_s;
+const QString DetailTable::deletedElsewhere = u"deleted elsewhere: "_s;
 
 QString DetailTable::table() const
 {
@@ -78,6 +79,9 @@ Result DetailTable::update(Connection &gCnn, const DetailRow &row) const
 {
     if (Result refused = refusal(row); !refused)
         return refused;
+    Reader present = gCnn.read(u"SELECT 1 FROM "_s + table() + u" WHERE "_s + key() + u" = "_s + row.id);
+    if (!present.next())
+        return present.result() ? Result(1, deletedElsewhere + row.sLibelle) : present.result();
     const QString list =
         hasList(row) ? u", sListe = "_s + quoted(row.sListe) + u", idListe = "_s + row.idListe : QString();
     return gCnn.execute(u"UPDATE "_s + table() + u"  SET sCode = '"_s + row.sCode + u"', sLibelle = "_s

@@ -24,10 +24,13 @@ public:
 
     /// Begins the text of the failure of a code that holds an apostrophe; the code follows.
     static const QString apostropheInCode;
+    /// Begins that of a row that is no longer in the store; its label follows.
+    static const QString deletedElsewhere;
 
     std::vector<DetailRow> read(Connection &gCnn, Result &result) const;
     /// Stores a new row and gives it its id. The code goes between plain quotes: one with an apostrophe is refused.
     Result insert(Connection &gCnn, DetailRow &row) const;
+    /// A row that somebody else has deleted fails.
     Result update(Connection &gCnn, const DetailRow &row) const;
     /// The children of the row stay, without a parent.
     Result remove(Connection &gCnn, const QString &id) const;

@@ -165,6 +165,8 @@ void TreesTest::childrenGatherInTheGrid()
     grid.setActiveCell(1, 3);
     press(window, "cmdSupprimer6");
     QCOMPARE(grid.MaxRows(), 2);
+    QTest::mouseClick(grid.viewport(), Qt::LeftButton, {}, grid.visualRect(grid.cells().index(1, 0)).center());
+    QCOMPARE(control<QLineEdit>(window, "txtLibelle").text(), u"Bleu nuit"_s);
     press(window, "cmdValider");
     QCOMPARE(window.result(), int(QDialog::Accepted));
     QCOMPARE(desk.value(u"SELECT group_concat(sCode || '=' || sLibelle) FROM REF_LISTE WHERE idRef_parent = 20"_s),
@@ -197,6 +199,7 @@ void TreesTest::attributesCarryAList()
         lists.setCurrentIndex(0);
         type(window, u"C"_s, u"Couleur"_s);
         press(window, "cmdAjouter6");
+        QCOMPARE(lists.currentIndex(), -1); // the next one doesn't get it unasked
         control<Spread>(window, "fpSpread4").setActiveCell(1, 1);
         QCOMPARE(lists.currentIndex(), -1); // as the row has none
         lists.setCurrentIndex(0);
@@ -237,6 +240,19 @@ void TreesTest::failuresKeepTheirRows()
     press(window, "cmdValider");
     QCOMPARE(desk.value(u"SELECT group_concat(sLibelle) FROM REF_LISTE WHERE idRef_parent = 20"_s),
              u"Rouge,Noir,Jaune"_s); // each went in once
+    frmRMParamDetail late(desk.session, list, nullptr);
+    late.show();
+    for (int row = 1; row <= 2; ++row) {
+        control<Spread>(late, "fpSpread4").setActiveCell(1, row);
+        type(late, u"R"_s, u"Rose%1"_s.arg(row));
+        press(late, "cmdModifier6");
+    }
+    desk.sql(u"DELETE FROM REF_LISTE WHERE idRef_parent = 20"_s);
+    desk.messages.boxes.clear();
+    press(late, "cmdValider");
+    QCOMPARE(desk.messages.boxes, QStringList{u"AjouterFParam|1: cette ligne a été supprimée ailleurs : Rose1\n"
+                                              "1: cette ligne a été supprimée ailleurs : Rose2"_s});
+    QVERIFY(late.isVisible());
 }
 
 void TreesTest::treeFollowsItsEditor()
