@@ -10,12 +10,14 @@ using namespace Qt::StringLiterals;
 namespace {
 
 constexpr int controlRole = Qt::UserRole;
+constexpr int rowRole = Qt::UserRole + 1;
 constexpr int linesOfOneCause = 3;
 
-void add(QListWidget &list, const QString &line, const QString &control)
+void add(QListWidget &list, const QString &line, const QString &control, int row = 0)
 {
     auto *item = new QListWidgetItem(line, &list);
     item->setData(controlRole, control);
+    item->setData(rowRole, row);
 }
 
 } // namespace
@@ -48,11 +50,16 @@ void CheckPanel::fill(QListWidget &list, const RunReport &report, const std::vec
         if (finding.kind == Finding::PictureGone
             && (isLogo ? logoTold : picturesTold.contains(finding.subject.section(u" / "_s, 1))))
             continue;
-        add(list, describe(finding, localisation), finding.control);
+        add(list, describe(finding, localisation), finding.control, finding.row);
     }
 }
 
 QString CheckPanel::controlOf(const QListWidgetItem &line)
 {
     return line.data(controlRole).toString();
+}
+
+int CheckPanel::rowOf(const QListWidgetItem &line)
+{
+    return line.data(rowRole).toInt();
 }

@@ -12,5 +12,7 @@ void fill(QListWidget &list, const RunReport &report, const std::vector<Finding>
           const Localisation &localisation);
 /// Name of the control that mends what a line tells; empty when it is elsewhere.
 QString controlOf(const QListWidgetItem &line);
+/// The row in that control, where it is a grid, else 0.
+int rowOf(const QListWidgetItem &line);
 
 } // namespace CheckPanel

@@ -22,7 +22,7 @@ ShippingFragments shippingFragments(const ShopSettings &settings)
         return fragments;
     constexpr auto lineEnd = "\r\n"_L1;
     int i = 0;
-    for (const auto &[name, value] : settings.fpSpread12) {
+    for (const auto &[name, value, row] : settings.fpSpread12) {
         if (value.isEmpty())
             continue;
         const QString number = QString::number(i++);

@@ -10,6 +10,7 @@
 #include <QSet>
 
 #include <algorithm>
+#include <cmath>
 
 using namespace Qt::StringLiterals;
 
@@ -45,9 +46,9 @@ public:
     }
 
 private:
-    void add(Finding::Kind kind, const QString &subject, const QString &control = {})
+    void add(Finding::Kind kind, const QString &subject, const QString &control = {}, int row = 0)
     {
-        m_findings.push_back({kind, subject, control});
+        m_findings.push_back({kind, subject, control, row});
     }
 
     void settings()
@@ -58,7 +59,7 @@ private:
         if (!s.chGratuit)
             for (const ShippingMethod &method : s.fpSpread12)
                 if (method.value.contains(u','))
-                    add(Finding::CommaInShippingPrice, method.name, u"fpSpread12"_s);
+                    add(Finding::CommaInShippingPrice, method.name, u"fpSpread12"_s, method.row);
         if (isNumber(s.txtMin) && s.txtMin.trimmed().toDouble() < 0)
             add(Finding::NegativeMinimum, s.txtMin, u"txtMin"_s);
         numbers();
@@ -88,12 +89,12 @@ private:
     }
 
     /// A field of one line; the scripts and pages hold it in one line too.
-    void line(const QString &text, const QString &subject, const QString &control = {})
+    void line(const QString &text, const QString &subject, const QString &control = {}, int row = 0)
     {
         if (losesCharacters(text))
-            add(Finding::CharactersLost, subject, control);
+            add(Finding::CharactersLost, subject, control, row);
         if (oneLine(text) != text)
-            add(Finding::ControlCharacter, oneLine(subject), control);
+            add(Finding::ControlCharacter, oneLine(subject), control, row);
     }
 
     void lines()
@@ -109,14 +110,14 @@ private:
             line(text, text.left(40), control);
         if (!s.chGratuit)
             for (const ShippingMethod &method : s.fpSpread12)
-                line(method.name + method.value, method.name, u"fpSpread12"_s);
+                line(method.name + method.value, method.name, u"fpSpread12"_s, method.row);
     }
 
     static bool isNumber(const QString &text)
     {
         bool isOne = false;
-        text.trimmed().toDouble(&isOne);
-        return isOne;
+        const double number = text.trimmed().toDouble(&isOne);
+        return isOne && std::isfinite(number);
     }
 
     void numbers()
@@ -132,11 +133,11 @@ private:
             return;
         for (const ShippingMethod &method : s.fpSpread12) {
             if (!method.value.isEmpty() && !method.value.contains(u',') && !isNumber(method.value))
-                add(Finding::NotANumber, method.name + u": "_s + method.value, u"fpSpread12"_s);
+                add(Finding::NotANumber, method.name + u": "_s + method.value, u"fpSpread12"_s, method.row);
             if (method.name.trimmed().isEmpty() && !method.value.trimmed().isEmpty())
-                add(Finding::ShippingWithoutName, method.value, u"fpSpread12"_s);
+                add(Finding::ShippingWithoutName, method.value, u"fpSpread12"_s, method.row);
             if (holdsAny(method.name, u"'\"\\"))
-                add(Finding::QuoteInSetting, method.name, u"fpSpread12"_s);
+                add(Finding::QuoteInSetting, method.name, u"fpSpread12"_s, method.row);
         }
     }
 
@@ -172,15 +173,17 @@ private:
 
     void groups()
     {
+        int line = 0;
         for (const SelectionRow &row : m_selection.rows) {
+            ++line;
             if (!row.ticked)
                 continue;
             if (row.name.contains(u'\''))
-                add(Finding::ApostropheInGroup, row.name, u"fpSpread2"_s);
+                add(Finding::ApostropheInGroup, row.name, u"fpSpread2"_s, line);
             if (holdsAny(row.name, u"\"\\"))
-                add(Finding::QuoteInName, row.name, u"fpSpread2"_s);
+                add(Finding::QuoteInName, row.name, u"fpSpread2"_s, line);
             if (losesCharacters(row.name))
-                add(Finding::CharactersLost, row.name, u"fpSpread2"_s);
+                add(Finding::CharactersLost, row.name, u"fpSpread2"_s, line);
         }
     }
 
@@ -230,21 +233,38 @@ private:
             add(Finding::NoPrice, reference);
         else if (!isNumber(price))
             add(Finding::NotANumber, reference + u": "_s + price);
+        else if (price.trimmed().toDouble() < 0)
+            add(Finding::NegativePrice, reference + u", "_s + price);
         if (m_data.settings.chSearch && description.contains(u'\\'))
             add(Finding::QuoteInText, reference + u" / "_s + name);
         else if (m_data.settings.chSearch && description.contains(u'"') && HtmlVersTexte(description).contains(u'"'))
             add(Finding::QuoteInText, reference + u" / "_s + name);
-        if (holdsAny(reference, u"\\:*?\"<>|#%"))
-            add(Finding::BadReference, reference);
         if (holdsAny(name, u"\"\\"))
             add(Finding::QuoteInName, reference + u" / "_s + name);
         if (name.contains(u'|'))
             add(Finding::BarInName, reference + u" / "_s + name);
-        if (holdsAny(reference, u"@'"))
-            add(Finding::SignInReference, reference);
         if (losesCharacters(name) || losesCharacters(description))
             add(Finding::CharactersLost, reference + u" / "_s + name);
+        pageName(reference, name);
+    }
+
+    /// The reference without its strokes names the page.
+    void pageName(const QString &reference, const QString &name)
+    {
+        constexpr qsizetype longest = 200;
         const QString page = QString(reference).remove(u'/');
+        if (page.trimmed().isEmpty())
+            return add(Finding::NoReference, name);
+        if (holdsAny(reference, u"\\:*?\"<>|#%"))
+            add(Finding::BadReference, reference);
+        if (holdsAny(reference, u"@'"))
+            add(Finding::SignInReference, reference);
+        if (losesCharacters(reference))
+            add(Finding::CharactersInReference, reference);
+        if (oneLine(reference) != reference)
+            add(Finding::ControlCharacter, oneLine(reference) + u" / "_s + name);
+        if (reference.size() > longest)
+            add(Finding::LongReference, reference.left(40) + u"… / "_s + name);
         if (const auto other = m_pages.constFind(page); other != m_pages.constEnd())
             add(Finding::ReferencesMeet, *other + u", "_s + reference);
         else
@@ -266,6 +286,8 @@ private:
                 add(Finding::PicturesOfOneName, *product + u" / "_s + name);
             if (!QFileInfo(path).isFile())
                 add(Finding::PictureGone, *product + u" / "_s + path);
+            if (losesCharacters(name))
+                add(Finding::CharactersInPictureName, *product + u" / "_s + name);
         }
         if (!row.result())
             add(Finding::CatalogueNotRead, row.result().message());
@@ -331,6 +353,16 @@ QString frenchLine(Finding::Kind kind)
         return u"La commande minimum est négative (%1). Mettez au moins 0."_s;
     case Finding::ShippingWithoutName:
         return u"Le prix du transport « %1 » n’a pas de nom : il ne sera pas enregistré."_s;
+    case Finding::CharactersInReference:
+        return u"La référence « %1 » contient des caractères que les pages ne peuvent pas montrer : leurs liens n’ouvriraient rien."_s;
+    case Finding::CharactersInPictureName:
+        return u"Le nom de fichier d’une image contient des caractères que les pages ne peuvent pas montrer, elle ne paraîtrait pas : %1"_s;
+    case Finding::NoReference:
+        return u"L’article « %1 » n’a pas de référence : sa page n’a pas de nom."_s;
+    case Finding::LongReference:
+        return u"La référence « %1 » est trop longue pour le nom d’une page."_s;
+    case Finding::NegativePrice:
+        return u"Le prix de vente est négatif : %1"_s;
     case Finding::CatalogueNotRead:
         return u"Le catalogue n’a pas pu être lu : %1"_s;
     }

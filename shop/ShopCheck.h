@@ -33,10 +33,16 @@ struct Finding {
         ControlCharacter,
         NegativeMinimum,
         ShippingWithoutName,
+        CharactersInReference,
+        CharactersInPictureName,
+        NoReference,
+        LongReference,
+        NegativePrice,
     };
     Kind kind;
     QString subject; ///< the product, the name or the field it is about
     QString control; ///< the control of the shop screen that mends it; empty when it is elsewhere
+    int row = 0;     ///< in that control, where it is a grid
 };
 
 /// Looks over the settings, the company data and the products of the ticked groups. Changes nothing.

@@ -9,6 +9,7 @@
 struct ShippingMethod {
     QString name;
     QString value; ///< the price as typed, with a point
+    int row = 0;   ///< of the grid it was taken from, if any
 };
 
 /// The settings of a shop, named after the controls that show them. The defaults are those of a new shop.

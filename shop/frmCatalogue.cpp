@@ -85,7 +85,7 @@ void frmCatalogue::wire()
             [this](const QModelIndex &index) { chooseTheme(index.row() + 1); });
     connect(m_ui->cmdControle, &QPushButton::clicked, this, &frmCatalogue::check);
     connect(m_ui->lstControle, &QListWidget::itemActivated, this,
-            [this](const QListWidgetItem *item) { leadTo(CheckPanel::controlOf(*item)); });
+            [this](const QListWidgetItem *item) { leadTo(CheckPanel::controlOf(*item), CheckPanel::rowOf(*item)); });
     connect(m_ui->cmdValider, &QPushButton::clicked, this, &frmCatalogue::generate);
     connect(m_ui->cmdFtp, &QPushButton::clicked, this, [this] { session().screens->showFtp(this); });
     connect(m_ui->cmdFermer, &QPushButton::clicked, this, &frmCatalogue::reject);
@@ -160,7 +160,7 @@ ShopSettings frmCatalogue::takeSettings() const
     settings.fpSpread12.clear();
     const Spread &grid = *m_ui->fpSpread12;
     for (int row = 1; row <= grid.MaxRows(); ++row)
-        if (const ShippingMethod method{oneLine(grid.text(MethodName, row)), oneLine(grid.text(MethodValue, row))};
+        if (const ShippingMethod method{oneLine(grid.text(MethodName, row)), oneLine(grid.text(MethodValue, row)), row};
             !method.name.isEmpty() || !method.value.isEmpty())
             settings.fpSpread12.push_back(method);
     return settings;
@@ -324,7 +324,7 @@ void frmCatalogue::generate()
     m_ui->cmdFtp->setEnabled(true);
 }
 
-void frmCatalogue::leadTo(const QString &control)
+void frmCatalogue::leadTo(const QString &control, int row)
 {
     auto *target = control.isEmpty() ? nullptr : findChild<QWidget *>(control);
     if (!target)
@@ -334,4 +334,6 @@ void frmCatalogue::leadTo(const QString &control)
             if (const int index = tabs->indexOf(page); index >= 0)
                 tabs->setCurrentIndex(index);
     target->setFocus();
+    if (auto *grid = qobject_cast<Spread *>(target); grid && row > 0)
+        grid->setActiveCell(1, row);
 }

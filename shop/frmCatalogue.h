@@ -41,7 +41,7 @@ private:
     void check();
     void generate();
     void setRunning(bool running);
-    void leadTo(const QString &control);
+    void leadTo(const QString &control, int row);
 
     std::unique_ptr<Ui::frmCatalogue> m_ui;
     RunReport m_report;

@@ -217,20 +217,42 @@ void CatalogueTest::findingsLeadToTheirField()
     desk.sql(u"UPDATE T_PRODUIT SET sNomFR = 'Bol Ω', sRef = 'a@b' WHERE idProduit = 20"_s);
     desk.sql(u"UPDATE T_PRODUIT SET idFamille = NULL WHERE idProduit = 30"_s);
     desk.sql(u"UPDATE T_PRODUIT SET sPrixVenteTTC = '12,50', sObservationFR = 'Le \"grand\"' WHERE idProduit = 31"_s);
+    desk.sql(u"UPDATE T_PRODUIT SET sRef = 'œuf→1' WHERE idProduit = 32"_s);
+    desk.sql(u"UPDATE T_PRODUIT SET sRef = '', sNomFR = 'Anonyme' WHERE idProduit IN (33, 34)"_s);
+    desk.sql(u"UPDATE T_PRODUIT SET sRef = 'a' || char(10) || 'b', sPrixVenteTTC = 'nan' WHERE idProduit = 35"_s);
+    desk.sql(
+        u"UPDATE T_PRODUIT SET sRef = 'L' || printf('%.*c', 200, 'x'), sPrixVenteTTC = '-3' WHERE idProduit = 36"_s);
+    desk.sql(u"UPDATE T_PRODUIT_IMAGE SET sImage = '/x/→.jpg' WHERE idProduit = 37"_s);
     desk.sql(u"UPDATE REF_INFO SET sValeur = '' WHERE idInfo = 9"_s);
     (void)AfficherInfo(desk.session);
     frmCatalogue window(desk.session, nullptr);
-    control<Spread>(window, "fpSpread12").setText(1, 1, u"Poste"_s);
-    control<Spread>(window, "fpSpread12").setText(2, 1, u"3,50"_s);
+    auto &shipping = control<Spread>(window, "fpSpread12");
+    shipping.setText(1, 3, u"Poste"_s);
+    shipping.setText(2, 3, u"3,50"_s);
     control<QPushButton>(window, "cmdControle").click();
     const QStringList lines = linesOf(window);
-    for (const QString &expected :
-         {u"La commande minimum est vide"_s, u"« Poste » contient une virgule"_s, u"« L'atelier »"_s,
-          u"00001/202501, 00001202501"_s, u"Pot \"noir\" | grand » contient un guillemet"_s,
-          u"Pot \"noir\" | grand » contient le signe"_s, u"L’article 00003/202501 n’a pas de nom"_s,
-          u"L’article 00003/202501 n’a pas de prix"_s, u"« a@b »"_s, u"a@b / Bol Ω » contient des caractères"_s,
-          u"La ligne 9 (Email) des données"_s, u"encore celui d’origine"_s, u"n’a pas de groupe"_s,
-          u": 12,50 » n’est pas un nombre"_s, u"dans son texte"_s})
+    for (const QString &expected : {u"La commande minimum est vide"_s,
+                                    u"« Poste » contient une virgule"_s,
+                                    u"« L'atelier »"_s,
+                                    u"00001/202501, 00001202501"_s,
+                                    u"Pot \"noir\" | grand » contient un guillemet"_s,
+                                    u"Pot \"noir\" | grand » contient le signe"_s,
+                                    u"L’article 00003/202501 n’a pas de nom"_s,
+                                    u"L’article 00003/202501 n’a pas de prix"_s,
+                                    u"« a@b »"_s,
+                                    u"a@b / Bol Ω » contient des caractères"_s,
+                                    u"La ligne 9 (Email) des données"_s,
+                                    u"encore celui d’origine"_s,
+                                    u"n’a pas de groupe"_s,
+                                    u": 12,50 » n’est pas un nombre"_s,
+                                    u"dans son texte"_s,
+                                    u"« œuf→1 » contient des car"_s,
+                                    u"« Anonyme » n’a pas de référence"_s,
+                                    u"« a b / "_s,
+                                    u": nan » n’est pas un nombre"_s,
+                                    u"x… / "_s,
+                                    u"Le prix de vente est négatif : Lx"_s,
+                                    u"/ →.jpg"_s})
         QVERIFY2(!lines.filter(expected).isEmpty(), qPrintable(expected + u" manque dans\n"_s + lines.join(u'\n')));
     auto &list = control<QListWidget>(window, "lstControle");
     window.show();
@@ -238,6 +260,8 @@ void CatalogueTest::findingsLeadToTheirField()
     Q_EMIT list.itemActivated(list.item(int(lines.indexOf(lines.filter(u"commande minimum"_s).first()))));
     QCOMPARE(control<QTabWidget>(window, "SSTab1").currentIndex(), 2);
     QCOMPARE(window.focusWidget(), &control<QWidget>(window, "txtMin"));
+    Q_EMIT list.itemActivated(list.item(int(lines.indexOf(lines.filter(u"« Poste »"_s).first()))));
+    QCOMPARE(shipping.activeRow(), 3);
 }
 
 void CatalogueTest::logoIsPickedAndCopied()
