@@ -3,6 +3,8 @@
 #include "data/StoreCopies.h"
 #include "data/clsConnection.h"
 #include "platform/Cipher.h"
+#include "platform/Messages.h"
+#include "shell/Causes.h"
 
 using namespace Qt::StringLiterals;
 
@@ -17,8 +19,12 @@ LoginStep checkUser(Session &session, const QString &password)
     Reader row = session.gCnn.read(
         u"SELECT REF_USER.Num_user, login, REF_USER.Mot_passe, sDroits FROM REF_USER WHERE (((REF_USER.Login)='"_s
         + QString(session.gsLogin).replace(u"'"_s, u"''"_s) + u" '));"_s);
-    if (!row.next())
-        return LoginStep::Refused;
+    if (!row.next()) {
+        if (row.result())
+            return LoginStep::Refused;
+        session.messages->box(Causes::message(row.result(), session.localisation), u"Login/cmdOK"_s);
+        return LoginStep::UsersNotRead;
+    }
     if (!row.isNull(3))
         session.gsDroits = row.text(3);
     if (!row.isNull(2) && row.text(2) != password)

@@ -25,6 +25,7 @@ enum class LoginStep {
     AdminRefused,
     Refused,
     NoConnection,
+    UsersNotRead, ///< told already
     Damaged, ///< the store can't be opened since it is damaged or none
 };
 

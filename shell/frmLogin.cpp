@@ -96,6 +96,9 @@ void frmLogin::tryLogin()
     case LoginStep::Damaged:
         refuse(u"Login or Password is invalid !"_s);
         break;
+    case LoginStep::UsersNotRead:
+        m_ui->txtPassword->setFocus();
+        break;
     case LoginStep::NoConnection:
         session().messages->box(u"Problème de connection"_s, u"ZELVANTOR"_s);
         break;

@@ -112,6 +112,12 @@ void LoginTest::loginStaysOpenOverABrokenStore()
     desk.session.gsDbPath = good;
     control<QPushButton>(window, "cmdOK").click();
     QVERIFY(window.LoginSucceeded);
+    // A failure to read the users is no wrong password.
+    desk.sql(u"DROP TABLE REF_USER"_s);
+    desk.messages.boxes.clear();
+    control<QLineEdit>(window, "txtUserName").setText(u"vendeur"_s);
+    control<QPushButton>(window, "cmdOK").click();
+    QCOMPARE(desk.messages.boxes, QStringList{u"Login/cmdOK|1: no such table: REF_USER"_s});
 }
 
 void LoginTest::administratorPasswordChanges()
