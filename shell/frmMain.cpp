@@ -150,13 +150,9 @@ void frmMain::readPosition()
 
 void frmMain::wireMenus()
 {
-    connect(m_ui->mnuImprimEcran, &QAction::triggered, this, [this] { ScreenPrint::start(*this, m_session); });
-    connect(m_ui->mnupreview, &QAction::triggered, this, [this] {
-        QPrinter printer;
-        QPageSetupDialog dialog(&printer, this);
-        dialog.setWindowTitle(u"Mise en page"_s);
-        dialog.exec();
-    });
+    connect(m_ui->mnuImprimEcran, &QAction::triggered, this,
+            [this] { ScreenPrint::start(*this, m_session, m_pageLayout); });
+    connect(m_ui->mnupreview, &QAction::triggered, this, &frmMain::setUpPage);
     connect(m_ui->mnuCopies, &QAction::triggered, this, &frmMain::showCopies);
     connect(m_ui->mnQuiter, &QAction::triggered, this, [] { std::_Exit(0); });
     connect(m_ui->mnuHoriz, &QAction::triggered, this, [this] { arrangeChildren(Qt::Horizontal); });
@@ -166,6 +162,18 @@ void frmMain::wireMenus()
     connect(m_ui->mn_homepage, &QAction::triggered, this, [this] { m_session.desktop->open(homePage); });
     connect(m_ui->miTraduire, &QAction::triggered, this, [this] { translate(windowAtWork()); });
     connect(m_ui->miAbout, &QAction::triggered, this, [this] { frmAbout(m_session, this).exec(); });
+}
+
+/// What is chosen holds for the prints of the screen until the program ends.
+void frmMain::setUpPage()
+{
+    QPrinter printer;
+    if (m_pageLayout.isValid())
+        printer.setPageLayout(m_pageLayout);
+    QPageSetupDialog dialog(&printer, this);
+    dialog.setWindowTitle(u"Mise en page"_s);
+    if (dialog.exec() == QDialog::Accepted)
+        m_pageLayout = printer.pageLayout();
 }
 
 /// The child window that has the focus, else this one: the key of the menu is the key of both.

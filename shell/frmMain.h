@@ -3,6 +3,7 @@
 
 #include <QLocale>
 #include <QMainWindow>
+#include <QPageLayout>
 #include <array>
 #include <memory>
 
@@ -38,6 +39,7 @@ protected:
 
 private:
     void wireMenus();
+    void setUpPage();
     QWidget &windowAtWork();
     void translate(QWidget &window);
     void readPosition();
@@ -51,6 +53,7 @@ private:
     std::unique_ptr<Ui::frmMain> m_ui;
     QLabel *m_user;
     QLabel *m_connect;
+    QPageLayout m_pageLayout;            ///< of the prints of the screen; not valid before one was chosen
     QStringList m_remarks;               ///< REF_REMARQUE in the order of its rows
     std::array<QString, 6> m_mailServer; ///< no screen sends mail with it
     bool m_isAdmin = false;

@@ -57,16 +57,21 @@ void ScreenPrintTest::printsTheWindowInFront()
     frmMain window(desk.session);
     window.show();
     QVERIFY(QTest::qWaitForWindowActive(&window));
-    ScreenPrint::start(window, desk.session, std::chrono::milliseconds(0));
+    ScreenPrint::start(window, desk.session, {}, std::chrono::milliseconds(0));
     QCOMPARE(desk.files.asked, 0); // it waits, and the program goes on
     QTRY_COMPARE(desk.files.asked, 1);
     QVERIFY(QFile::exists(desk.files.path));
     const QRectF ink = Printed::ink(Printed(desk.files.path).picture(), {0, 0, 2100, 2970});
     QVERIFY(ink.width() > 500);
+    const QPageLayout across(QPageSize(QPageSize::A4), QPageLayout::Landscape, QMarginsF(10, 10, 10, 10));
+    ScreenPrint::start(window, desk.session, across, std::chrono::milliseconds(0));
+    QTRY_COMPARE(desk.files.asked, 2);
+    const QSize page = Printed(desk.files.path).picture().size();
+    QVERIFY(page.width() > page.height());
     // The menu entry waits longer than any key press takes.
     control<QAction>(window, "mnuImprimEcran").trigger();
     QCoreApplication::processEvents();
-    QCOMPARE(desk.files.asked, 1);
+    QCOMPARE(desk.files.asked, 2);
     QCOMPARE(desk.messages.boxes, QStringList());
 }
 
