@@ -25,6 +25,7 @@ namespace {
 
 const QString title = u"ZELVANTOR"_s;
 const QString dateForm = u"dd/MM/yyyy"_s;
+constexpr qsizetype lengthOfEan = 13;
 
 } // namespace
 
@@ -42,6 +43,8 @@ frmArticle::frmArticle(Session &screenSession, QWidget *parent)
     m_prices->chain().type(Field::Qte, 1);
     m_ui->txtSeuil->setNumber(1);
     opened();
+    m_ui->txtEan->setMinimumWidth(m_ui->txtEan->minimumSizeHint().width()
+                                  + fontMetrics().horizontalAdvance(QString(lengthOfEan, u'0')));
     wire();
     InitPico();
     fillCombos();

@@ -14,6 +14,7 @@
 
 #include <QApplication>
 #include <QCloseEvent>
+#include <QHeaderView>
 #include <QMdiSubWindow>
 #include <QShortcut>
 
@@ -31,6 +32,15 @@ const QStringList headings = {QString(),       u"Référence"_s, u"Nom"_s,      
                               u"Prix Achat"_s, u"Marge"_s,     u"Prix vente"_s,  u"Sale date"_s, u"Buy date"_s};
 const QString title = u"ZELVANTOR"_s;
 const QString widthsKey = u"frmListProduit.fpSpread1"_s;
+
+/// The first widths, none of them below that of its heading in the language of the windows.
+QList<int> widthsWithHeadings(const QHeaderView &header)
+{
+    QList<int> widths = firstWidths;
+    for (int column = 0; column < Last; ++column)
+        widths[column] = std::max(widths[column], header.sectionSizeHint(column));
+    return widths;
+}
 
 } // namespace
 
@@ -57,7 +67,7 @@ frmListProduct::frmListProduct(Session &session, QWidget *parent)
         grid.cells().setNumberColumn(column, 2);
     grid.setOperationMode(Spread::OperationMode::SingleSelect);
     grid.setBandColors(QColor(0, 0, 0), QColor(204, 253, 245));
-    grid.setColumnWidths(firstWidths);
+    grid.setColumnWidths(widthsWithHeadings(*grid.horizontalHeader()));
     for (const int column : hiddenColumns)
         grid.hideColumns(column, column);
     for (int column = IdProduit; column <= Last; ++column)

@@ -86,6 +86,28 @@ void giveButtonBars(const QWidget &frm, const Texts &texts)
     }
 }
 
+void giveTips(const QWidget &frm, const Texts &texts)
+{
+    for (QWidget *control : frm.findChildren<QWidget *>()) {
+        const QString tip = control->toolTip();
+        if (tip.isEmpty())
+            continue;
+        texts.give(u"tip_"_s + control->objectName(), [&](const QString &text) {
+            if (control->accessibleName() == tip)
+                control->setAccessibleName(text);
+            control->setToolTip(text);
+        });
+    }
+}
+
+/// What a screen reader says of a box is what its label says to the eye.
+void nameByLabels(const QWidget &frm)
+{
+    for (const QLabel *label : frm.findChildren<QLabel *>())
+        if (label->buddy() && !tagOf(*label).isEmpty())
+            label->buddy()->setAccessibleName(QString(label->text()).remove(u'&').trimmed());
+}
+
 } // namespace
 
 void ChargerLangue(QWidget &frm, const Localisation &localisation)
@@ -103,4 +125,6 @@ void ChargerLangue(QWidget &frm, const Localisation &localisation)
     giveButtonBars(frm, texts);
     giveTabs(frm, texts);
     giveGrids(frm, texts);
+    giveTips(frm, texts);
+    nameByLabels(frm);
 }

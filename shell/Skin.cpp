@@ -17,8 +17,11 @@ namespace {
 
 // Only shape and room; every colour comes from the palette, so that light and dark desktops both keep theirs.
 const QString sheet = u"QToolButton { padding: 6px 4px; }"
-                      "QPushButton { padding: 5px 14px; min-width: 72px; }"
                       "QLineEdit, QComboBox { padding: 3px 5px; }"_s;
+
+// Not in the sheet, whose least width would let a button shrink below its text.
+constexpr QSize roomOfButton(12, 4);
+constexpr QSize smallestButton(100, 0);
 
 /// A drawing whose lines have the colour that the text of the windows has at that moment.
 class LineIcon : public QIconEngine {
@@ -53,6 +56,13 @@ private:
 class SkinStyle : public QProxyStyle {
 public:
     SkinStyle() : QProxyStyle(u"Fusion"_s) {}
+
+    QSize sizeFromContents(ContentsType type, const QStyleOption *option, const QSize &size,
+                           const QWidget *widget) const override
+    {
+        const QSize full = QProxyStyle::sizeFromContents(type, option, size, widget);
+        return type == CT_PushButton ? (full + roomOfButton).expandedTo(smallestButton) : full;
+    }
 
     void drawPrimitive(PrimitiveElement element, const QStyleOption *option, QPainter *painter,
                        const QWidget *widget) const override

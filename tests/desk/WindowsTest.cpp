@@ -1,3 +1,5 @@
+#include "catalogue/frmArticle.h"
+#include "catalogue/frmListProduct.h"
 #include "reference/TranslationRule.h"
 #include "reference/frmTrad.h"
 #include "shell/MessageBoxes.h"
@@ -16,6 +18,7 @@
 #include <QAction>
 #include <QComboBox>
 #include <QDir>
+#include <QHeaderView>
 #include <QLabel>
 #include <QLineEdit>
 #include <QMdiArea>
@@ -46,6 +49,7 @@ private Q_SLOTS:
     void colourOfTheDesktopIsFollowed();
     void registryKeepsItsKinds();
     void savingAsksBeforeItOverwrites();
+    void longTextsFitInTheirPlace();
 };
 
 /// A control whose key a language lacks would show French in the middle of another language.
@@ -359,6 +363,29 @@ void WindowsTest::savingAsksBeforeItOverwrites()
     });
     QCOMPARE(FileDialogs().saveFile(nullptr, u"Export"_s, filters), QString());
     QVERIFY(asked.contains(u"liste.html"_s));
+}
+
+void WindowsTest::longTextsFitInTheirPlace()
+{
+    Desk desk;
+    desk.openSample();
+    desk.session.localisation.gsLangue = u"DE"_s;
+    desk.session.giModeProduit = 2;
+    desk.session.glIdProduit = 1;
+    frmArticle article(desk.session, nullptr);
+    article.show();
+    article.resize(article.minimumSizeHint());
+    for (const QPushButton *button : article.findChildren<QPushButton *>())
+        if (button->isVisible())
+            QVERIFY2(button->width() >= button->sizeHint().width(), qPrintable(button->text()));
+    const auto &ean = control<QLineEdit>(article, "txtEan");
+    QVERIFY(ean.width() > ean.fontMetrics().horizontalAdvance(QString(13, u'8')) + 12);
+    QCOMPARE(control<QToolButton>(article, "cmdTrans").toolTip(), u"Strichcode aus der Referenz bilden"_s);
+    QCOMPARE(control<QLineEdit>(article, "txtMarque").accessibleName(), u"Marke"_s);
+    frmListProduct list(desk.session, nullptr);
+    const QHeaderView &headings = *control<Spread>(list, "fpSpread1").horizontalHeader();
+    for (int column = 0; column < headings.count(); ++column)
+        QVERIFY(headings.isSectionHidden(column) || headings.sectionSize(column) >= headings.sectionSizeHint(column));
 }
 
 ZELVANTOR_SUITE(WindowsTest)
