@@ -88,8 +88,9 @@ bool isForeign(const QString &folder, const QString &imgFolder)
     if (dir.exists(u"nopcart.js"_s) || dir.exists(u"exmplmenu_var.js"_s))
         return false;
     const QStringList names = dir.entryList(QDir::Files | QDir::Hidden);
+    const bool isBegun = dir.exists(u"images"_s); // the folder of the fixed assets themselves has none
     return std::any_of(names.begin(), names.end(), [&](const QString &name) {
-        return !WholeFile::isTemporaryName(name) && !QFileInfo::exists(imgFolder + u'/' + name);
+        return !isBegun || (!WholeFile::isTemporaryName(name) && !QFileInfo::exists(imgFolder + u'/' + name));
     });
 }
 
