@@ -60,7 +60,7 @@ void AttributeGrid::RemplirCBT(int row, const QString &idListe)
 QString AttributeGrid::ChercherValeur(const QString &attribute) const
 {
     Result read;
-    const QString value = ProductRows::ChercherValeur(m_session.gCnn, attribute, m_session.glIdProduit, read);
+    QString value = ProductRows::ChercherValeur(m_session.gCnn, attribute, m_session.glIdProduit, read);
     if (!read)
         m_session.messages->box(read.message(), u"ChercherValeur"_s);
     return value;

@@ -15,7 +15,7 @@ ProductNumber::Taken ProductNumber::ChercherNumProduit(Connection &gCnn)
             const qint64 next = row.isNull(0) ? 1 : row.integer(0) + 1;
             const bool fits = next <= std::numeric_limits<qint16>::max() && next >= std::numeric_limits<qint16>::min();
             if (!fits)
-                taken.failures.push_back({6, u"Dépassement de capacité"_s});
+                taken.failures.emplace_back(6, u"Dépassement de capacité"_s);
             taken.number = fits && next != 0 ? int(next) : 1;
         }
         if (!row.result())

@@ -65,7 +65,7 @@ QString ProductRows::ChercherValeur(Connection &gCnn, const QString &attribute, 
 {
     Reader rows = gCnn.read(u"SELECT sValeur FROM REF_EXTENSION WHERE idRef_categorie = "_s + attribute
                             + u" AND idRef_produit = "_s + QString::number(glIdProduit) + u" "_s);
-    const QString value = rows.next() ? rows.text(0) : QString();
+    QString value = rows.next() ? rows.text(0) : QString();
     result = rows.result();
     return value;
 }

@@ -72,7 +72,7 @@ public:
     virtual bool confirm(const QString &text, const QString &title) = 0; ///< OK and Cancel
     /// Shows the conflict dialogue, which decides through `Conflict`.
     virtual void askConflict() = 0;
-    virtual bool open(const QString &file) = 0;
+    virtual bool openFile(const QString &file) = 0;
     /// Lets the window repaint between the steps of a long local action.
     virtual void breathe() {}
 };

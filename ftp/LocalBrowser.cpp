@@ -140,5 +140,5 @@ void LocalBrowser::DeleteLocal(std::vector<QueueItem> queue)
 void LocalBrowser::ViewLocalFile(int row)
 {
     if (const PaneRow *file = Panes::at(m_desk.localRows, row))
-        m_desk.view.open(file->tag);
+        m_desk.view.openFile(file->tag);
 }

@@ -251,7 +251,7 @@ void RemoteBrowser::ViewRemoteFile(int row)
     QFile::remove(m_desk.sViewFile);
     std::ignore = QFile(m_desk.sViewFile).open(QFile::WriteOnly | QFile::NewOnly, QFile::ReadOwner | QFile::WriteOwner);
     if (m_desk.Ftp1.Retrieve(file.tag, m_desk.sViewFile))
-        m_desk.view.open(m_desk.sViewFile);
+        m_desk.view.openFile(m_desk.sViewFile);
     m_desk.resetBar();
     m_desk.commandsBack();
 }

@@ -89,7 +89,7 @@ private:
     void inform(const QString &text) override;
     bool confirm(const QString &text, const QString &title) override;
     void askConflict() override;
-    bool open(const QString &file) override;
+    bool openFile(const QString &file) override;
     void breathe() override;
 
     std::unique_ptr<Ui::frmFTP> m_ui;

@@ -298,7 +298,7 @@ void frmFTP::askConflict()
         frmTransfer::ask(session(), m_desk, m_remote, this);
 }
 
-bool frmFTP::open(const QString &file)
+bool frmFTP::openFile(const QString &file)
 {
     return session().desktop->open(file);
 }

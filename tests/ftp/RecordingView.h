@@ -38,7 +38,7 @@ public:
         ++conflicts;
         decide();
     }
-    bool open(const QString &file) override
+    bool openFile(const QString &file) override
     {
         opened << file;
         return true;
