@@ -41,7 +41,7 @@ Result Connection::execute(const QString &statement)
 {
     if (!m_store)
         return notOpen();
-    if (m_beforeChange)
+    if (m_beforeChange && !m_store->isInTransaction())
         m_beforeChange();
     return m_store->execute(statement);
 }

@@ -28,7 +28,7 @@ public:
     Result begin();
     Result commit();
     void rollBack();
-    /// Called in front of every statement that `execute` runs, and of a transaction.
+    /// Called in front of every statement that `execute` runs by itself, and of a transaction.
     void setBeforeChange(std::function<void()> beforeChange) { m_beforeChange = std::move(beforeChange); }
     /// See Store.
     Result check();

@@ -1,6 +1,7 @@
 #include "data/StoreCopies.h"
 
 #include "data/Connection.h"
+#include "data/SchemaSteps.h"
 #include "platform/Store.h"
 #include "platform/WholeFile.h"
 
@@ -27,11 +28,20 @@ Result rename(const QString &from, const QString &to)
     return file.rename(to) ? Result() : Result(1, from + u": "_s + file.errorString());
 }
 
+/// Whether a copy is sound, and a store of this program that this version can carry on with.
 Result checkCopy(const QString &path)
 {
     Result result;
     const auto store = Store::openStill(path, result);
-    return store ? store->check() : result;
+    if (!store)
+        return result;
+    if (result = store->check(); !result)
+        return result;
+    Reader products = store->read(u"SELECT Count(*) FROM T_PRODUIT"_s);
+    Reader number = store->read(u"PRAGMA user_version"_s);
+    if (products.next() && number.next() && number.integer(0) > SchemaSteps::current())
+        return {1, u"written by a newer version"_s};
+    return products.result();
 }
 
 } // namespace
@@ -83,16 +93,25 @@ Result StoreCopies::keepDay(Connection &store, QDate day) const
         return {};
     Result kept = keep(store, path);
     if (kept)
-        dropOld();
+        dropOld(path);
     return kept;
 }
 
 Result StoreCopies::keepMoment(Connection &store, const QDateTime &moment) const
 {
-    Result kept = keep(store, pathOf(moment.toString(momentForm)));
+    const QString path = freePath(moment);
+    Result kept = keep(store, path);
     if (kept)
-        dropOld();
+        dropOld(path);
     return kept;
+}
+
+/// Two in one second get two names.
+QString StoreCopies::freePath(QDateTime moment) const
+{
+    while (QFileInfo::exists(pathOf(moment.toString(momentForm))))
+        moment = moment.addSecs(1);
+    return pathOf(moment.toString(momentForm));
 }
 
 Result StoreCopies::keep(Connection &store, const QString &path) const
@@ -108,23 +127,25 @@ Result StoreCopies::keep(Connection &store, const QString &path) const
     return done;
 }
 
-void StoreCopies::dropOld() const
+/// The one just made stays, wherever the clock of the machine puts it among the others.
+void StoreCopies::dropOld(const QString &made) const
 {
-    const std::vector<StoreCopy> copies = list();
-    for (size_t i = keptCopies; i < copies.size(); ++i)
-        QFile::remove(copies[i].path);
+    size_t kept = 1;
+    for (const StoreCopy &copy : list())
+        if (copy.path != made && ++kept > keptCopies)
+            QFile::remove(copy.path);
 }
 
 /// The copy that is wanted may be the oldest one, so that none goes before it has been taken.
 Result StoreCopies::restore(const StoreCopy &copy, Connection &store, const QDateTime &moment) const
 {
-    Result done = checkCopy(copy.path);
-    if (done)
-        done = keep(store, pathOf(moment.toString(momentForm)));
+    if (Result sound = checkCopy(copy.path); !sound)
+        return sound;
+    const QString present = freePath(moment);
+    Result done = keep(store, present);
     if (done)
         done = store.takeFrom(copy.path);
-    if (done)
-        dropOld();
+    dropOld(present);
     return done;
 }
 

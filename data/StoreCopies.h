@@ -42,7 +42,8 @@ private:
     /// Where a copy is written before it bears its name.
     QString unfinished() const { return m_store + QStringLiteral(".part"); }
     Result keep(Connection &store, const QString &path) const;
-    void dropOld() const;
+    QString freePath(QDateTime moment) const;
+    void dropOld(const QString &made) const;
 
     QString m_store;
     QString m_folder;

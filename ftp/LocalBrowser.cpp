@@ -1,4 +1,5 @@
 #include "ftp/LocalBrowser.h"
+#include "platform/WholeFile.h"
 
 #include <QDateTime>
 #include <QDir>
@@ -43,6 +44,8 @@ void LocalBrowser::DoLocalRefresh(const QString &directory)
 /// A folder may bear a name that the rule for typed paths would cut.
 Result LocalBrowser::showFolder(const QString &directory)
 {
+    if (QDir::isRelativePath(directory))
+        return {FtpError::LocalFile, u"This folder can't be read: "_s + directory};
     const bool isThere = !directory.isEmpty() && QDir(directory).exists();
     m_desk.localDir = isThere ? directory : Panes::NormalizePath(directory, false);
     const QString path = Panes::asFolder(m_desk.localDir, false);
@@ -53,7 +56,8 @@ Result LocalBrowser::showFolder(const QString &directory)
     for (const QFileInfo &entry : folder.entryInfoList(QDir::Dirs | shown, QDir::Name))
         folders.push_back(rowOf(entry, u"FolderClose"_s, path));
     for (const QFileInfo &entry : folder.entryInfoList(QDir::Files | shown, QDir::Name))
-        files.push_back(rowOf(entry, Panes::fileIcon(entry.fileName()), path));
+        if (!WholeFile::isTemporaryName(entry.fileName()))
+            files.push_back(rowOf(entry, Panes::fileIcon(entry.fileName()), path));
     m_desk.localRows = Panes::sortedFolders(std::move(folders), std::move(files));
     m_desk.view.showLocal(m_desk.localRows);
     return folder.exists() && folder.isReadable()

@@ -182,7 +182,8 @@ void frmFTP::wirePanes()
                                  pane->topLevelItem(row)->setText(0, before);
                          });
         QObject::connect(pane, &FtpPane::dragBegun, this, [this, pane] {
-            if (m_running == 0)
+            m_dragQueued = m_running == 0;
+            if (m_dragQueued)
                 queue(*pane);
         });
         QObject::connect(pane, &FtpPane::dragLeft, this, [this, remote] {
@@ -190,7 +191,9 @@ void frmFTP::wirePanes()
                 m_queue.UnmarkQueue(!remote);
         });
         QObject::connect(pane, &FtpPane::rowsDropped, this, [this, pane](FtpPane *source) {
-            run([this, pane, source] { dropped(*pane, source); });
+            // One that began during a transfer has no queue of its own.
+            if (m_dragQueued)
+                run([this, pane, source] { dropped(*pane, source); });
             pane->forgetDropRow();
         });
         QObject::connect(pane->header(), &QHeaderView::sectionClicked, this, [this, remote](int column) {
@@ -221,8 +224,11 @@ void frmFTP::wireDirectories()
             run([this, choose, directory] { (this->*choose)(directory); });
         };
         QObject::connect(box, &QComboBox::textActivated, this, chosen);
-        QObject::connect(box->lineEdit(), &QLineEdit::returnPressed, this,
-                         [box, chosen] { chosen(box->currentText()); });
+        // For a text of its history the box tells by itself.
+        QObject::connect(box->lineEdit(), &QLineEdit::returnPressed, this, [box, chosen] {
+            if (box->findText(box->currentText(), Qt::MatchFixedString) < 0)
+                chosen(box->currentText());
+        });
     };
     onChoice(m_ui->cmbLocalDir, &frmFTP::chooseLocal);
     onChoice(m_ui->cmbRemoteDir, &frmFTP::chooseRemote);

@@ -101,5 +101,6 @@ private:
     Focus m_focus = Focus::Local;
     int m_running = 0;
     bool m_closing = false;
+    bool m_dragQueued = false; ///< the drag at hand has filled the queue
     QMap<QString, QString> m_accepted; ///< certificates of this session, by server
 };

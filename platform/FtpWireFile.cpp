@@ -1,9 +1,9 @@
 // The local file of a transfer.
 #include "platform/FtpReply.h"
 #include "platform/FtpWire.h"
+#include "platform/WholeFile.h"
 
 #include <QFileInfo>
-#include <QUuid>
 
 #include <cstdio>
 
@@ -23,8 +23,8 @@ bool FtpWire::openLocal()
     if (!existing.isFile() || !existing.isWritable())
         return m_file.open(QFile::WriteOnly | QFile::Truncate | QFile::Unbuffered);
     m_replaced = existing.canonicalFilePath();
-    m_file.setFileName(QFileInfo(m_replaced).path() + u"/.recu-"_s + QUuid::createUuid().toString(QUuid::Id128));
-    return m_file.open(QFile::WriteOnly | QFile::NewOnly | QFile::Unbuffered, existing.permissions());
+    m_file.setFileName(WholeFile::temporaryPath(m_replaced));
+    return m_file.open(QFile::WriteOnly | QFile::Truncate | QFile::Unbuffered, existing.permissions());
 }
 
 /// A disk that fills takes a part of the bytes first, and gives the cause with the next ones.

@@ -69,6 +69,7 @@ public:
     /// ends the transaction by itself, such as that of a full disk, ends them all: what follows is not run, and both
     /// it and the commit give that failure.
     Result begin();
+    bool isInTransaction() const { return m_inTransaction; }
     Result commit();
     void rollBack();
     /// Runs a script of several statements, in the dialect of the store itself. For the store builder.

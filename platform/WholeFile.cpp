@@ -17,12 +17,6 @@ namespace {
 
 constexpr auto temporaryStem = ".zelvantor-part-"_L1;
 
-QString temporaryPath(const QString &path)
-{
-    static const QString name = temporaryStem + QString::number(QCoreApplication::applicationPid());
-    return path.left(path.lastIndexOf(u'/') + 1) + name;
-}
-
 std::filesystem::path native(const QString &path)
 {
     return {path.toStdU16String()};
@@ -31,7 +25,7 @@ std::filesystem::path native(const QString &path)
 /// Renames the whole temporary file over the target, or leaves no trace of it.
 Result put(const QString &path, QByteArrayView bytes, bool isKept)
 {
-    const QString temporary = temporaryPath(path);
+    const QString temporary = WholeFile::temporaryPath(path);
     QFile file(temporary);
     if (!file.open(QIODevice::WriteOnly | QIODevice::Truncate | QIODevice::Unbuffered))
         return {1, file.errorString()};
@@ -75,6 +69,12 @@ bool isRunning(const QString &temporaryName)
 }
 
 } // namespace
+
+QString WholeFile::temporaryPath(const QString &path)
+{
+    static const QString name = temporaryStem + QString::number(QCoreApplication::applicationPid());
+    return path.left(path.lastIndexOf(u'/') + 1) + name;
+}
 
 Result WholeFile::write(const QString &path, QByteArrayView bytes)
 {

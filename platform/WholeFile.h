@@ -13,6 +13,8 @@ namespace WholeFile {
 Result write(const QString &path, QByteArrayView bytes);
 /// The same for what can't be made again: the bytes are on the disk before the old file goes, which keeps its rights.
 Result replace(const QString &path, const QByteArray &bytes);
+/// Where a file is written before it takes the place of `path`, by this process alone.
+QString temporaryPath(const QString &path);
 /// Removes from a folder the temporary files of programs that no longer run.
 void clearTemporaries(const QString &folder);
 /// Whether the file holds exactly these bytes.

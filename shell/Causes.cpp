@@ -15,9 +15,9 @@ struct Cause {
     QString french;
 };
 
-const std::array<Cause, 48> &causes()
+const std::array<Cause, 52> &causes()
 {
-    static const std::array<Cause, 48> table = {{
+    static const std::array<Cause, 52> table = {{
         {u"c1"_s, u"No such file or directory"_s, u"fichier introuvable"_s},
         {u"c2"_s, u"Permission denied"_s, u"accès refusé"_s},
         {u"c3"_s, u"No space left on device"_s, u"plus de place sur le disque"_s},
@@ -67,6 +67,10 @@ const std::array<Cause, 48> &causes()
         {u"c43"_s, u"database disk image is malformed"_s, u"la base de données est endommagée"_s},
         {u"c44"_s, u"file is not a database"_s, u"ce fichier n’est pas une base de données"_s},
         {u"c3"_s, u"database or disk is full"_s, u"plus de place sur le disque"_s},
+        {u"c26"_s, u"response reading failed"_s, u"Le serveur a fermé la connexion."_s},
+        {u"c21"_s, u"URL using bad/illegal format or missing URL"_s, u"Ceci n’est pas un nom de serveur"_s},
+        {u"c46"_s, u"written by a newer version"_s, u"écrit par une version plus récente de ZELVANTOR"_s},
+        {u"c47"_s, u"There is no connection."_s, u"Il n’y a pas de connexion."_s},
         {u"c45"_s, u"deleted elsewhere: "_s, u"cette ligne a été supprimée ailleurs : "_s},
     }};
     return table;

@@ -6,6 +6,8 @@
 #include "platform/Messages.h"
 #include "shell/Causes.h"
 
+#include <QFileInfo>
+
 using namespace Qt::StringLiterals;
 
 namespace {
@@ -22,6 +24,8 @@ LoginStep checkUser(Session &session, const QString &password)
     if (!row.next()) {
         if (row.result())
             return LoginStep::Refused;
+        if (isDamage(row.result()))
+            return LoginStep::Damaged;
         session.messages->box(Causes::message(row.result(), session.localisation), u"Login/cmdOK"_s);
         return LoginStep::UsersNotRead;
     }
@@ -73,7 +77,8 @@ LoginStep logIn(Session &session, const QString &userName, const QString &passwo
     connection.sPassWord = session.gsPassword;
     connection.Init_connect();
     if (!connection.bLogin())
-        return isDamage(connection.failure()) ? LoginStep::Damaged : LoginStep::Refused;
+        return isDamage(connection.failure()) || !QFileInfo::exists(session.gsDbPath) ? LoginStep::Damaged
+                                                                                      : LoginStep::Refused;
     session.gCnn = connection.connectdb();
     session.gsDroits.clear();
     if (!isAdmin)

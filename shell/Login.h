@@ -26,7 +26,7 @@ enum class LoginStep {
     Refused,
     NoConnection,
     UsersNotRead, ///< told already
-    Damaged,      ///< the store can't be opened since it is damaged or none
+    Damaged,      ///< the store can't be opened or read since it is damaged or gone
 };
 
 /// Logs a user in: sets `gsLogin`, `gsPassword`, `gsDroits`, opens `gCnn` and stores the name. Failures of the

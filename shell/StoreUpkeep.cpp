@@ -7,7 +7,9 @@
 #include "shell/Session.h"
 
 #include <QApplication>
-#include <QLocale>
+#include <QFileInfo>
+
+#include <utility>
 
 using namespace Qt::StringLiterals;
 
@@ -30,11 +32,12 @@ public:
         const QDate today = m_session.clock.today();
         if (m_kept == today || m_session.gCnn.isReadOnly())
             return;
-        m_kept = today;
         QApplication::setOverrideCursor(Qt::WaitCursor);
         const Result kept = StoreCopies(m_session.gsDbPath).keepDay(m_session.gCnn, today);
         QApplication::restoreOverrideCursor();
-        if (!kept)
+        if (kept)
+            m_kept = today;
+        else if (std::exchange(m_told, today) != today) // and tried again before the next change
             m_session.messages->box(text(m_session, u"nocopytoday"_s, u"La copie du jour n’a pas pu être gardée : %1"_s)
                                         .arg(Causes::message(kept, m_session.localisation)),
                                     title);
@@ -43,6 +46,7 @@ public:
 private:
     Session &m_session;
     QDate m_kept;
+    QDate m_told;
 };
 
 } // namespace
@@ -61,7 +65,7 @@ Result StoreUpkeep::damageOf(Session &session)
     } else {
         found = session.gCnn.check();
     }
-    return isDamage(found) ? found : Result();
+    return isDamage(found) || !QFileInfo::exists(session.gsDbPath) ? found : Result();
 }
 
 bool StoreUpkeep::offerSoundCopy(Session &session, const Result &damage)
@@ -69,13 +73,15 @@ bool StoreUpkeep::offerSoundCopy(Session &session, const Result &damage)
     const StoreCopies copies(session.gsDbPath);
     const std::optional<StoreCopy> copy = copies.newestSound();
     const QString cause = Causes::message(damage, session.localisation);
+    if (!copy && !isDamage(damage))
+        return false; // a folder without a store is told by the login
     if (!copy) {
         session.messages->box(
             text(session, u"nocopy"_s, u"La base de données %1 est endommagée : %2"_s).arg(session.gsDbPath, cause),
             title);
         return false;
     }
-    const QString day = QLocale().toString(copy->taken.date(), QLocale::ShortFormat);
+    const QString day = copy->taken.toString(u"dd/MM/yyyy"_s);
     if (!session.messages->question(
             text(session, u"damaged"_s, u"La base de données %1 est endommagée : %2. Remettre la copie du %3 ?"_s)
                 .arg(session.gsDbPath, cause, day),

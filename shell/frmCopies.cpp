@@ -2,6 +2,7 @@
 
 #include "platform/Messages.h"
 #include "shell/Causes.h"
+#include "shell/StoreUpkeep.h"
 #include "ui_frmCopies.h"
 
 #include <QApplication>
@@ -72,8 +73,10 @@ void frmCopies::restoreChosen()
     QApplication::restoreOverrideCursor();
     if (!done) {
         session().messages->box(Causes::message(done, texts), windowTitle());
+        showCopies();
         return;
     }
+    (void)StoreUpkeep::carryForward(session()); // the copy may be of an older version
     restored = true;
     session().messages->box(
         texts.textOr(section, u"5"_s, u"La base de données du %1 est en place."_s).arg(nameOf(copy)), windowTitle());

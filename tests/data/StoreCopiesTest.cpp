@@ -87,6 +87,10 @@ void StoreCopiesTest::theLastTenStay()
     QVERIFY(!list[0].isOfDay && list[1].isOfDay);
     QCOMPARE(list[9].taken.date(), QDate(2026, 3, 4));
     QVERIFY(QFile::exists(path(u"zelvantor-2026-03.mdb"_s)));
+    // A clock that runs behind takes nothing away from the day at hand.
+    QVERIFY(copies.keepDay(m_store, {2020, 1, 1}));
+    QVERIFY(QFile::exists(path(u"zelvantor-2020-01-01.mdb"_s)));
+    QCOMPARE(copies.list().size(), size_t(10));
 }
 
 void StoreCopiesTest::aDamagedStoreTakesNoCopyAway()
@@ -122,6 +126,14 @@ void StoreCopiesTest::aCopyComesBack()
     QVERIFY(copies.restore(copies.list().front(), m_store, moment.addSecs(1)));
     QCOMPARE(number(), u"2"_s);
     QVERIFY(m_store.check());
+    // Neither a copy of a newer version nor another store takes its place.
+    Files::write(path(u"zelvantor-2026-03-05.mdb"_s), Files::read(path()));
+    Connection newer;
+    QVERIFY(newer.open(connectionText(path(u"zelvantor-2026-03-05.mdb"_s))));
+    QVERIFY(newer.execute(u"PRAGMA user_version = 99"_s));
+    newer = Connection();
+    QVERIFY(!copies.restore(copies.list().front(), m_store, moment));
+    QCOMPARE(number(), u"2"_s);
 }
 
 void StoreCopiesTest::theOldestCopyComesBackToo()

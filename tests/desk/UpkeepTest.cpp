@@ -1,3 +1,4 @@
+#include "data/SchemaSteps.h"
 #include "data/StoreCopies.h"
 #include "platform/Spread.h"
 #include "shell/Main.h"
@@ -107,7 +108,13 @@ void UpkeepTest::aDamagedStoreOffersItsCopy()
 void UpkeepTest::aCopyIsRestoredFromTheMenu()
 {
     QVERIFY(logIn());
+    // The copy of the day is of the version before.
     m_desk->sql(u"UPDATE REF_INFO SET sValeur = 'Autre nom' WHERE idInfo = 1"_s);
+    {
+        Connection copy;
+        QVERIFY(copy.open(connectionText(copies().list()[0].path)));
+        QVERIFY(copy.execute(u"PRAGMA user_version = 0"_s));
+    }
     frmMain window(m_desk->session);
     window.show();
     QCOMPARE(m_desk->session.gInfo.value(0), u"Autre nom"_s);
@@ -126,6 +133,7 @@ void UpkeepTest::aCopyIsRestoredFromTheMenu()
     QCOMPARE(visitor.waiting(), QStringList());
     QCOMPARE(m_desk->session.gInfo.value(0), u"La Remise aux Tilleuls"_s);
     QVERIFY(m_desk->messages.boxes.last().contains(u"est en place"_s));
+    QCOMPARE(SchemaSteps::of(m_desk->session.gCnn), SchemaSteps::current());
 }
 
 void UpkeepTest::aNewerStoreIsRefused()
