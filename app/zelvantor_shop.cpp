@@ -124,8 +124,9 @@ int finish(const RunReport &report, const Session &session, const QString &lastL
 /// Prints the findings, one a line; they are advice and do not count as missing pieces.
 int check(const ShopData &data, Session &session, RunReport &report)
 {
+    const Localisation texts = session.localisation.held();
     for (const Finding &finding : checkShop(data, readSelection(session, report), session))
-        say(stdout, describe(finding, session.localisation));
+        say(stdout, describe(finding, texts));
     return finish(report, session, {});
 }
 

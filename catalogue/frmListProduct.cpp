@@ -74,6 +74,8 @@ frmListProduct::frmListProduct(Session &session, QWidget *parent)
         grid.widenToTitle(column);
     wire();
     wireKeys();
+    for (QPushButton *button : findChildren<QPushButton *>())
+        button->setAutoDefault(true); // Enter presses it, which in a dialogue it would by itself
     Rechercher();
 }
 

@@ -161,10 +161,12 @@ void Spread::keyPressEvent(QKeyEvent *event)
 {
     // The focus alone makes a cell of the first row the current one without choosing the row, and the keys would
     // go on from there to the second.
+    const bool isLeftCell = currentIndex().row() > 0 && event->key() != Qt::Key_Down; // goes on from there as ever
     if (m_mode == OperationMode::SingleSelect && movesRow(event->key()) && MaxRows() > 0
-        && !selectionModel()->hasSelection())
+        && !selectionModel()->hasSelection() && !isLeftCell)
         selectRow(event->key() == Qt::Key_End ? MaxRows() - 1 : std::max(0, currentIndex().row()));
-    else if (m_mode == OperationMode::Normal && (isEnter(*event) || event->key() == Qt::Key_Delete))
+    else if (m_mode == OperationMode::Normal && (m_cells->flags(currentIndex()) & Qt::ItemIsEditable)
+             && (isEnter(*event) || event->key() == Qt::Key_Delete))
         editByKey(*event);
     else
         QTableView::keyPressEvent(event);
@@ -246,6 +248,7 @@ void Spread::commitData(QWidget *editor)
 void Spread::closeEditor(QWidget *editor, QAbstractItemDelegate::EndEditHint hint)
 {
     const bool forth = hint == QAbstractItemDelegate::EditNextItem;
+    const QModelIndex edited = indexAt(editor->geometry().center());
     const QList<int> columns = visibleColumns();
     const QModelIndex end = !forth || columns.isEmpty() ? m_cells->index(0, columns.value(0) - 1)
                                                         : m_cells->index(MaxRows() - 1, columns.last() - 1);
@@ -256,7 +259,7 @@ void Spread::closeEditor(QWidget *editor, QAbstractItemDelegate::EndEditHint hin
     } else {
         QTableView::closeEditor(editor, hint);
     }
-    if (hint == QAbstractItemDelegate::SubmitModelCache) // it was Enter that closed it
+    if (hint == QAbstractItemDelegate::SubmitModelCache && edited == currentIndex()) // it was Enter that closed it
         moveDown();
     leaveIfFocusIsGone();
 }

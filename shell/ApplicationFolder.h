@@ -12,8 +12,8 @@ QString user();
 QString sample(const QString &applicationFolder);
 
 /// Fills the folder at a first start and refreshes at every later one what only the program owns: the fixed
-/// assets, and the layouts that it brings a new form of. A store, a language file or a text that is there is never touched. The result is the
-/// first failure; the rest is tried all the same.
+/// assets, and the layouts that it brings a new form of. A store, a language file or a text that is there is never
+/// touched. The result is the first failure; the rest is tried all the same.
 Result fill(const QString &deliveredFolder, const QString &applicationFolder);
 
 /// Takes over the shop settings and texts of the sample wherever the user has none yet, so that the sample can be

@@ -21,7 +21,17 @@ QString Localisation::fileName(const QString &language) const
 
 QString Localisation::Traduire(const QString &section, const QString &key) const
 {
+    if (m_held && m_heldLanguage == language())
+        return m_held->value(section, key);
     return opened(fileName(language())).value(section, key);
+}
+
+Localisation Localisation::held() const
+{
+    Localisation copy = *this;
+    copy.m_held = std::make_shared<const IniFile>(opened(fileName(gsLangue)));
+    copy.m_heldLanguage = gsLangue;
+    return copy;
 }
 
 QString Localisation::textOr(const QString &section, const QString &key, const QString &absent) const

@@ -1,5 +1,8 @@
 #pragma once
 #include <QString>
+#include <memory>
+
+class IniFile;
 
 /// The texts of the language files: `<folder>/<language>.cda`, one file per language.
 class Localisation {
@@ -18,6 +21,8 @@ public:
     QString Traduire(const QString &section, const QString &key) const;
     /// The same, with a text for a key that has none.
     QString textOr(const QString &section, const QString &key, const QString &absent) const;
+    /// A copy that has read the file of the windows once, for a long row of texts.
+    Localisation held() const;
     /// The number of keys of a section.
     int CompterCles(const QString &section) const;
 
@@ -25,4 +30,6 @@ private:
     QString language() const { return gbLangueCatalogue ? gsLangueCatalogue : gsLangue; }
 
     QString m_folder;
+    std::shared_ptr<const IniFile> m_held;
+    QString m_heldLanguage;
 };

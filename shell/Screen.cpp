@@ -3,9 +3,11 @@
 #include "shell/ChargerLangue.h"
 #include "shell/Screens.h"
 
+#include <QAbstractItemView>
 #include <QContextMenuEvent>
 #include <QMenu>
 #include <QMouseEvent>
+#include <QPushButton>
 #include <QShortcut>
 #include <QSplitter>
 
@@ -82,6 +84,15 @@ void Screen::done(int result)
 {
     ScreenManners::remember(*this, m_session);
     QDialog::done(result);
+}
+
+void Screen::keyPressEvent(QKeyEvent *event)
+{
+    const bool isEnter = event->key() == Qt::Key_Return || event->key() == Qt::Key_Enter;
+    if (auto *button = qobject_cast<QPushButton *>(focusWidget()); isEnter && button)
+        button->click();
+    else if (!isEnter || !qobject_cast<QAbstractItemView *>(focusWidget()))
+        QDialog::keyPressEvent(event);
 }
 
 void Screen::mousePressEvent(QMouseEvent *event)

@@ -31,6 +31,8 @@ public:
 protected:
     void opened();
     Session &session() const { return m_session; }
+    /// Enter on a button presses that button, and inside a list or grid it leaves the window alone.
+    void keyPressEvent(QKeyEvent *event) override;
     void mousePressEvent(QMouseEvent *event) override;
     void contextMenuEvent(QContextMenuEvent *event) override;
 

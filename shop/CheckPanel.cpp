@@ -26,6 +26,7 @@ void CheckPanel::fill(QListWidget &list, const RunReport &report, const std::vec
                       const Localisation &localisation)
 {
     list.clear();
+    const Localisation texts = localisation.held();
     QSet<QString> picturesTold;
     bool logoTold = false;
     int lost = 0;
@@ -35,14 +36,17 @@ void CheckPanel::fill(QListWidget &list, const RunReport &report, const std::vec
             continue;
         const bool isLogo = incident.kind == Incident::LogoNotCopied;
         logoTold = logoTold || isLogo;
-        add(list, describe(incident, localisation), isLogo ? u"txtFile"_s : QString());
+        add(list, describe(incident, texts), isLogo ? u"txtFile"_s : QString());
         if (incident.kind == Incident::PictureNotCopied)
             picturesTold.insert(incident.piece);
     }
     if (lost > linesOfOneCause) {
-        Localisation windows = localisation;
+        Localisation windows = texts;
         windows.gbLangueCatalogue = false;
-        add(list, windows.Traduire(u"RUN"_s, u"more4"_s).replace(u"%1"_s, QString::number(lost - linesOfOneCause)), {});
+        add(list,
+            windows.textOr(u"RUN"_s, u"more4"_s, u"… et %1 autres fichiers"_s)
+                .replace(u"%1"_s, QString::number(lost - linesOfOneCause)),
+            {});
     }
     for (const Finding &finding : findings) {
         // A picture that the run has missed already needs no second line.
@@ -50,7 +54,7 @@ void CheckPanel::fill(QListWidget &list, const RunReport &report, const std::vec
         if (finding.kind == Finding::PictureGone
             && (isLogo ? logoTold : picturesTold.contains(finding.subject.section(u" / "_s, 1))))
             continue;
-        add(list, describe(finding, localisation), finding.control, finding.row);
+        add(list, describe(finding, texts), finding.control, finding.row);
     }
 }
 
