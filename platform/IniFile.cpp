@@ -14,6 +14,9 @@
 #include <algorithm>
 
 struct IniFile::Content {
+    // Blanks around the sign would turn an empty value into a blank one.
+    Content() { ini.SetSpaces(false); }
+
     CSimpleIniA ini{true, false, false};
 };
 
