@@ -1,3 +1,4 @@
+#include "tests/reliability/Seed.h"
 #include "tests/reliability/WorkedShop.h"
 #include "tests/shop/ShopCommand.h"
 #include "tests/support/Files.h"
@@ -49,12 +50,7 @@ private:
 
 void FaultTest::initTestCase()
 {
-    bool isGiven = false;
-    unsigned seed = qEnvironmentVariable("ZELVANTOR_SEED").toUInt(&isGiven);
-    if (!isGiven)
-        seed = std::random_device()();
-    qInfo("ZELVANTOR_SEED=%u", seed);
-    m_chance.seed(seed);
+    m_chance.seed(campaignSeed());
 }
 
 QByteArray FaultTest::runAndKill(const QString &program, const QStringList &arguments, int longestMicroseconds)

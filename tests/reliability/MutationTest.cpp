@@ -8,6 +8,7 @@
 #include "shop/GenererPages.h"
 #include "shop/ShopRun.h"
 #include "tests/reliability/Mutator.h"
+#include "tests/reliability/Seed.h"
 #include "tests/support/Files.h"
 #include "tests/support/Suite.h"
 #include "tests/support/TestShop.h"
@@ -24,6 +25,8 @@ using namespace Qt::StringLiterals;
 class MutationTest : public QObject {
     Q_OBJECT
 private Q_SLOTS:
+    void initTestCase() { m_seed = campaignSeed(); }
+    void init() { m_mutator = Mutator(m_seed); } // each part repeats by itself
     void stores();
     void settings();
     void languageFiles();
@@ -33,7 +36,8 @@ private Q_SLOTS:
 
 private:
     static constexpr int mutations = 1000;
-    Mutator m_mutator;
+    unsigned m_seed = 0;
+    Mutator m_mutator = Mutator(0);
 };
 
 namespace {

@@ -1,17 +1,5 @@
 #include "tests/reliability/Mutator.h"
 
-#include <QTest>
-
-Mutator::Mutator()
-{
-    bool isGiven = false;
-    unsigned seed = qEnvironmentVariable("ZELVANTOR_SEED").toUInt(&isGiven);
-    if (!isGiven)
-        seed = std::random_device()();
-    qInfo("ZELVANTOR_SEED=%u", seed);
-    m_chance.seed(seed);
-}
-
 QByteArray Mutator::mutated(QByteArray bytes, const QByteArrayList &dictionary, int most)
 {
     for (size_t change = 0; change <= below(size_t(most)); ++change) {

@@ -4,10 +4,10 @@
 
 #include <random>
 
-/// Damages bytes as disks, editors and other programs do. The seed is printed, and taken from ZELVANTOR_SEED.
+/// Damages bytes as disks, editors and other programs do.
 class Mutator {
 public:
-    Mutator();
+    explicit Mutator(unsigned seed) : m_chance(seed) {}
 
     /// A text with up to `most` changes: bytes and blocks overwritten, doubled, cut out, or taken from a dictionary.
     QByteArray mutated(QByteArray bytes, const QByteArrayList &dictionary = {}, int most = 6);
