@@ -16,6 +16,20 @@ KeyCombo::KeyCombo(QComboBox &box, std::function<void()> chosen) : m_box(box), m
     });
 }
 
+void KeyCombo::takeSamePick()
+{
+    QObject::connect(&m_box, &QComboBox::currentIndexChanged, &m_box, [this] {
+        m_justChanged = true;
+        // A pick that changes the box tells of both within one turn of the event loop.
+        QMetaObject::invokeMethod(
+            &m_box, [this] { m_justChanged = false; }, Qt::QueuedConnection);
+    });
+    QObject::connect(&m_box, &QComboBox::activated, &m_box, [this] {
+        if (!m_justChanged && m_box.currentIndex() >= 0)
+            m_chosen();
+    });
+}
+
 void KeyCombo::RemplirCB(Session &session, const QString &table)
 {
     Result read;

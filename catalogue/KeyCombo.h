@@ -14,6 +14,8 @@ public:
     KeyCombo(QComboBox &box, std::function<void()> chosen);
     Q_DISABLE_COPY_MOVE(KeyCombo)
 
+    /// From now on `chosen` runs also when a person picks the item that is chosen already.
+    void takeSamePick();
     /// Refills box and keys, and leaves nothing chosen. A failure is shown.
     void RemplirCB(Session &session, const QString &table);
     const ReferenceRows &rows() const { return m_rows; }
@@ -29,4 +31,5 @@ private:
     QComboBox &m_box;
     std::function<void()> m_chosen;
     ReferenceRows m_rows;
+    bool m_justChanged = false; ///< the pick at hand has been taken as a change
 };

@@ -100,6 +100,8 @@ void frmArticle::fillCombos()
         m_prices->chain().chooseTvaA(m_colTvaA->number());
     });
     m_colTvaV = std::make_unique<KeyCombo>(*m_ui->cbTvaV, [this] { chooseTvaV(); });
+    m_colTvaA->takeSamePick();
+    m_colTvaV->takeSamePick();
     m_colCategorie->RemplirCB(values, u"REF_CATEGORIE_P"_s);
     m_colFournisseur->RemplirCB(values, u"REF_SHIPPER"_s);
     m_colTvaA->RemplirCB(values, u"REF_TVA"_s);
@@ -128,8 +130,6 @@ void frmArticle::wire()
     ArticleControls::keepCapital(*m_ui->txtMarque);
     connect(m_ui->cmdTrans, &QToolButton::clicked, this,
             [this] { m_ui->txtEan->setText(Ean13::fromReference(m_ui->txtRef_Article->text())); });
-    // A person may pick the rate that is chosen already, for the rows that have another.
-    connect(m_ui->cbTvaV, &QComboBox::activated, this, [this](int position) { m_bands->chooseRate(position); });
     connect(m_reader, &BarcodeReader::codeRead, m_ui->txtEan, &QLineEdit::setText);
     connect(m_ui->chPrix, &QCheckBox::toggled, this, [this](bool shown) {
         m_ui->fpSpread2->setVisible(shown);
@@ -324,14 +324,14 @@ frmArticle::Stored frmArticle::readStored(Result &read) const
 /// A product that somebody else has changed or deleted since it was opened is not overwritten without a word.
 bool frmArticle::mayOverwrite()
 {
-    if (!isMode(Modify))
+    if (isMode(New))
         return true;
     Result read;
     const Stored present = readStored(read);
     if (!read || (present.article && present == m_stored))
         return true; // a store that can't be read tells its failure at the save
     if (present.article)
-        return session().messages->question(message(u"changed"_s), title);
+        return isMode(Consult) || session().messages->question(message(u"changed"_s), title);
     session().messages->box(message(u"deleted"_s), title);
     return false;
 }

@@ -37,6 +37,7 @@ void ArticleGridsTest::bandsOpenAndFollow()
         grid.setActiveCell(4, row);
     };
     grid.cells().setChoiceIndex(2, 1, 0);
+    QCoreApplication::processEvents();
     Q_EMIT control<QComboBox>(*window, "cbTvaV").activated(position); // picked though it is chosen already
     leave(1, 1, u"100"_s);
     QCOMPARE(grid.text(3, 1), u"121.00"_s);

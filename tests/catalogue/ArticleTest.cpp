@@ -190,6 +190,11 @@ void ArticleTest::pricesReactToTypingAndFocus()
     QCOMPARE(shown(*window, "txtPrixVente"), u"252.00"_s);
     control<QComboBox>(*window, "cbTvaV").setCurrentIndex(control<QComboBox>(*window, "cbTvaV").findText(u"0"_s));
     QCOMPARE(shown(*window, "txtPrixVenteHT"), u"252.00"_s);
+    // The rate that is chosen already, picked again, counts the price again.
+    enter(*window, "txtPrixAchatTTC", "77");
+    auto &rate = control<QComboBox>(*window, "cbTVAA");
+    Q_EMIT rate.activated(rate.currentIndex());
+    QCOMPARE(shown(*window, "txtPrixAchatTTC"), u"121.00"_s);
     // An entry that is still open counts when a key saves.
     auto &costs = control<NumberBox>(*window, "txtFrais");
     costs.selectAll();
