@@ -34,6 +34,7 @@ QString wordsOf(const QString &html)
 
 QString printable(const PrintObject &object, QString text)
 {
+    text.truncate(10 * mostLetters); // with its markup
     if (object.html && Qt::mightBeRichText(text))
         text = wordsOf(text);
     text.truncate(mostLetters);
