@@ -78,8 +78,6 @@ private:
             {u"txtmessage"_s, s.txtmessage},       {u"txtModalite"_s, s.txtModalite},
             {u"txtExpedition"_s, s.txtExpedition}, {u"txtPrivacy"_s, s.txtPrivacy},
             {u"txtKeyword"_s, s.txtKeyword},       {u"txtDescription"_s, s.txtDescription}};
-        if (s.chSearch && s.txtTitre.contains(u'\\'))
-            add(Finding::QuoteInText, s.txtTitre, u"txtTitre"_s);
         for (const auto &[control, text] : texts) {
             if (losesCharacters(text))
                 add(Finding::CharactersLost, text.left(40), control);
@@ -255,7 +253,7 @@ private:
         const QString page = QString(reference).remove(u'/');
         if (page.trimmed().isEmpty())
             return add(Finding::NoReference, name);
-        if (holdsAny(reference, u"\\:*?\"<>|#%"))
+        if (holdsAny(reference, u"\\:*?\"<>|#%") || page != page.trimmed())
             add(Finding::BadReference, reference);
         if (holdsAny(reference, u"@'"))
             add(Finding::SignInReference, reference);
@@ -263,7 +261,7 @@ private:
             add(Finding::CharactersInReference, reference);
         if (oneLine(reference) != reference)
             add(Finding::ControlCharacter, oneLine(reference) + u" / "_s + name);
-        if (reference.size() > longest)
+        if (QFile::encodeName(page).size() > longest)
             add(Finding::LongReference, reference.left(40) + u"… / "_s + name);
         if (const auto other = m_pages.constFind(page); other != m_pages.constEnd())
             add(Finding::ReferencesMeet, *other + u", "_s + reference);
@@ -286,6 +284,8 @@ private:
                 add(Finding::PicturesOfOneName, *product + u" / "_s + name);
             if (!QFileInfo(path).isFile())
                 add(Finding::PictureGone, *product + u" / "_s + path);
+            if (holdsAny(name, u"#%?\""))
+                add(Finding::BadFileName, *product + u" / "_s + name);
             if (losesCharacters(name))
                 add(Finding::CharactersInPictureName, *product + u" / "_s + name);
         }
