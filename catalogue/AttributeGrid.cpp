@@ -21,6 +21,7 @@ AttributeGrid::AttributeGrid(Spread &fpSpread1, Session &session) : m_grid(fpSpr
     m_grid.cells().setColumnType(List, SpreadModel::CellType::Locked);
     m_grid.setText(Champs, 0, u"Champs"_s);
     m_grid.setText(Valeur, 0, u"Valeur"_s);
+    m_grid.setDeleteEmpties(true);
     m_grid.hideColumns(IdListe, Key);
     m_grid.setColumnWidths({100, 120});
 }

@@ -28,6 +28,7 @@ BandGrid::BandGrid(Spread &fpSpread2) : QObject(&fpSpread2), m_grid(fpSpread2)
     const QStringList headings = {u"Prix HT"_s, u"TVA"_s, u"Prix TTC"_s, u"Qte min"_s, u"Qte max"_s};
     for (int column = PrixHT; column <= QteMax; ++column)
         m_grid.setText(column, 0, headings[column - 1]);
+    m_grid.setDeleteEmpties(true);
     m_grid.setColumnWidths({75, 60, 75, 70, 75});
     connect(&cells, &SpreadModel::cellChanged, this, &BandGrid::openNextBand);
     connect(&m_grid, &Spread::cellLeft, this, &BandGrid::followPrice);

@@ -180,7 +180,7 @@ void Spread::editByKey(const QKeyEvent &event)
         return;
     if (isEnter(event))
         moveDown();
-    else
+    else if (m_deleteEmpties)
         emptyCell();
 }
 
@@ -206,8 +206,24 @@ void Spread::focusOutEvent(QFocusEvent *event)
     leaveIfFocusIsGone();
 }
 
+QModelIndex Spread::editableNeighbour(bool forth) const
+{
+    const QList<int> columns = visibleColumns();
+    const qsizetype cells = MaxRows() * columns.size();
+    qsizetype place = currentIndex().row() * columns.size() + columns.indexOf(currentIndex().column() + 1);
+    for (place += forth ? 1 : -1; place >= 0 && place < cells; place += forth ? 1 : -1) {
+        const QModelIndex cell = m_cells->index(int(place / columns.size()), columns[place % columns.size()] - 1);
+        if (m_cells->flags(cell) & Qt::ItemIsEditable)
+            return cell;
+    }
+    return {};
+}
+
 QModelIndex Spread::moveCursor(CursorAction action, Qt::KeyboardModifiers modifiers)
 {
+    if (m_mode == OperationMode::Normal && (action == MoveNext || action == MovePrevious))
+        if (const QModelIndex cell = editableNeighbour(action == MoveNext); cell.isValid())
+            return cell;
     const int column = std::max(0, currentIndex().column());
     if (m_mode == OperationMode::SingleSelect && action == MoveHome)
         return m_cells->index(0, column);
@@ -249,10 +265,7 @@ void Spread::closeEditor(QWidget *editor, QAbstractItemDelegate::EndEditHint hin
 {
     const bool forth = hint == QAbstractItemDelegate::EditNextItem;
     const QModelIndex edited = indexAt(editor->geometry().center());
-    const QList<int> columns = visibleColumns();
-    const QModelIndex end = !forth || columns.isEmpty() ? m_cells->index(0, columns.value(0) - 1)
-                                                        : m_cells->index(MaxRows() - 1, columns.last() - 1);
-    if ((forth || hint == QAbstractItemDelegate::EditPreviousItem) && currentIndex() == end) {
+    if ((forth || hint == QAbstractItemDelegate::EditPreviousItem) && !editableNeighbour(forth).isValid()) {
         // The table would begin again at its other end, and the key would never leave it.
         QTableView::closeEditor(editor, QAbstractItemDelegate::NoHint);
         focusNextPrevChild(forth);

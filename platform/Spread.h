@@ -32,6 +32,8 @@ public:
     QList<int> columnWidths() const;
     /// Gives the widths to the columns in order; a negative one leaves its column as it is.
     void setColumnWidths(const QList<int> &widths);
+    /// The key Delete empties the current cell.
+    void setDeleteEmpties(bool empties) { m_deleteEmpties = empties; }
     /// A column that is shown gets at least the width of its title.
     void widenToTitle(int column);
     void setActiveCell(int column, int row);
@@ -69,11 +71,14 @@ private:
     void editByKey(const QKeyEvent &event);
     void moveDown();
     void emptyCell();
+    /// The cell that Tab leads to, or Shift+Tab, none behind the last one: locked cells are passed over.
+    QModelIndex editableNeighbour(bool forth) const;
     void leave(const QModelIndex &cell);
     void leaveIfFocusIsGone();
 
     SpreadModel *m_cells;
     OperationMode m_mode = OperationMode::Normal;
+    bool m_deleteEmpties = false;
     QHash<int, int> m_hiddenWidths; ///< the header tells nothing of a hidden column
     bool m_edited = false;          ///< the current cell, since it is the current one
 };
