@@ -14,6 +14,7 @@
 #include <QDir>
 #include <QFileInfo>
 #include <QHeaderView>
+#include <QPointer>
 #include <QTabBar>
 #include <QTimer>
 
@@ -142,6 +143,7 @@ void frmCatalogue::showSettings()
 void frmCatalogue::fillShipping()
 {
     Spread &grid = *m_ui->fpSpread12;
+    grid.setDeleteEmpties(true);
     grid.resizeGrid(shippingRows, MethodValue);
     grid.setText(MethodName, 0, u"Nom"_s);
     grid.setText(MethodValue, 0, u"Valeur"_s);
@@ -302,6 +304,7 @@ void frmCatalogue::generate()
     finishEditing();
     {
         const Busy busy;
+        const QPointer<QWidget> focus = focusWidget();
         m_ui->cmdFtp->setEnabled(false);
         setRunning(true);
         m_report = m_prepared; // what could not be prepared still is not there
@@ -312,6 +315,8 @@ void frmCatalogue::generate()
         genererBoutique(shop, takeSelection(), session(), m_folder, m_report);
         (void)SaveParam(shop.settings, session(), &m_report);
         setRunning(false);
+        if (focus)
+            focus->setFocus(); // a button that was off has lost it
         check();
         Localisation windows = session().localisation;
         windows.gbLangueCatalogue = false;
