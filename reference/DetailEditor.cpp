@@ -1,5 +1,8 @@
 #include "reference/DetailEditor.h"
 
+#include "platform/Messages.h"
+
+#include <QKeyEvent>
 #include <QLabel>
 
 using namespace Qt::StringLiterals;
@@ -11,9 +14,16 @@ DetailEditor::DetailEditor(Session &screenSession, ReferenceSelection parent, QW
 
 void DetailEditor::fill()
 {
-    auto *pane = new DetailPane(*this, session(), m_parent);
+    m_pane = new DetailPane(*this, session(), m_parent);
     opened();
-    pane->AfficherFParam();
+    m_pane->AfficherFParam();
+}
+
+void DetailEditor::keyPressEvent(QKeyEvent *event)
+{
+    const QString question = session().localisation.Traduire(u"MESSAGES"_s, u"leaverows"_s);
+    if (event->key() != Qt::Key_Escape || !m_pane->hasMarks() || session().messages->question(question, windowTitle()))
+        Screen::keyPressEvent(event);
 }
 
 void DetailEditor::textsLoaded()

@@ -14,7 +14,10 @@ public:
 protected:
     /// Called when the controls stand.
     void fill();
+    /// Escape asks before rows are lost that nobody has written; the button that closes does not.
+    void keyPressEvent(QKeyEvent *event) override;
 
 private:
     ReferenceSelection m_parent;
+    DetailPane *m_pane = nullptr;
 };

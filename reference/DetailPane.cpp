@@ -88,6 +88,14 @@ void DetailPane::AfficherFParam()
         m_session.messages->box(read.message(), u"AfficherFParam"_s);
 }
 
+bool DetailPane::hasMarks() const
+{
+    for (int row = 1; row <= m_grid->MaxRows(); ++row)
+        if (m_grid->text(MarkColumn, row) != stored)
+            return true;
+    return false;
+}
+
 DetailRow DetailPane::rowAt(int row) const
 {
     return {m_grid->text(Code, row), m_grid->text(Label, row), m_grid->text(List, row), m_grid->text(IdList, row),

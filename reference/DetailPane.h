@@ -20,6 +20,8 @@ public:
 
     void AfficherFParam();
     bool bModifie() const { return m_bModifie; }
+    /// Whether rows of the grid wait for their writing.
+    bool hasMarks() const;
 
 private:
     void RemplirCB();
