@@ -1,6 +1,7 @@
 #include "ftp/Conflict.h"
 
 #include <QFile>
+#include <QFileInfo>
 
 #include <tuple>
 
@@ -88,7 +89,9 @@ bool Conflict::renameTarget(FtpDesk &desk, RemoteBrowser &remote, const QString 
     // A copy: the refresh of the pane lets other code run.
     const TransferVariables transfer = desk.transfer;
     desk.transfer.bCancel = false;
-    if (Panes::find(transfer.bStoring ? desk.remoteRows : desk.localRows, newName))
+    // A drop on a folder's row goes where the local pane does not look.
+    if (Panes::find(transfer.bStoring ? desk.remoteRows : desk.localRows, newName)
+        || (!transfer.bStoring && QFileInfo::exists(transfer.sLocalDir + newName)))
         return false;
     if (transfer.bStoring) {
         const QString &directory = transfer.sRemoteDir;

@@ -95,6 +95,7 @@ struct FtpDesk {
     bool bLost = false;
     bool bTransferring = false;
     bool isAbortable = false; ///< through all of an action, not only while bytes move
+    bool isStopped = false;   ///< the person wants no more of a local action
     qint64 barValue = 0;
     qint64 barMaximum = 100;
 

@@ -17,6 +17,7 @@ namespace {
 
 const QString rowsFormat = u"application/x-zelvantor-rows"_s;
 constexpr int nameColumn = 0;
+constexpr int iconRole = Qt::UserRole;
 
 QIcon iconOf(const QString &name)
 {
@@ -56,6 +57,7 @@ void FtpPane::showRows(const PaneRows &rows)
     for (const PaneRow &row : rows) {
         auto *item = new QTreeWidgetItem({row.text, row.size, row.date, row.permission});
         item->setIcon(nameColumn, iconOf(row.icon));
+        item->setData(nameColumn, iconRole, row.icon);
         item->setTextAlignment(1, Qt::AlignRight | Qt::AlignVCenter);
         item->setFlags(Qt::ItemIsSelectable | Qt::ItemIsEnabled | Qt::ItemIsDragEnabled);
         if (!row.text.isEmpty())
@@ -110,6 +112,8 @@ void FtpPane::mark(int row, bool queued)
     if (!item)
         return;
     const QSignalBlocker noEdit(this);
+    const QIcon icon = iconOf(item->data(nameColumn, iconRole).toString());
+    item->setIcon(nameColumn, queued ? QIcon(icon.pixmap(iconSize(), QIcon::Disabled)) : icon);
     for (int column = 0; column < columnCount(); ++column)
         item->setForeground(column, queued ? QBrush(QColor(0, 0, 255)) : QBrush());
 }

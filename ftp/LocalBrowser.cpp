@@ -9,6 +9,8 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
+constexpr auto shown = QDir::Hidden | QDir::System | QDir::NoDotAndDotDot;
+
 PaneRow rowOf(const QFileInfo &file, const QString &icon, const QString &directory)
 {
     return {file.fileName(),
@@ -19,16 +21,31 @@ PaneRow rowOf(const QFileInfo &file, const QString &icon, const QString &directo
             directory + file.fileName()};
 }
 
-Result removed(const QString &path)
+Result removedFile(const QFileInfo &file)
 {
-    const QFileInfo file(path);
-    // A link goes, not what it leads to.
-    if (file.isDir() && !file.isSymLink())
-        return QDir(path).removeRecursively() ? Result() : Result(FtpError::LocalFile, u"Can't be deleted: "_s + path);
-    QFile doomed(path);
+    QFile doomed(file.filePath());
     if (!file.isSymLink())
         doomed.setPermissions(doomed.permissions() | QFile::WriteOwner);
-    return doomed.remove() ? Result() : Result(FtpError::LocalFile, doomed.errorString() + u": " + path);
+    return doomed.remove() ? Result() : Result(FtpError::LocalFile, doomed.errorString() + u": " + file.filePath());
+}
+
+/// The first failure of all; what can go goes.
+Result removed(FtpDesk &desk, const QFileInfo &file)
+{
+    desk.view.breathe();
+    if (desk.isStopped)
+        return {FtpError::Aborted, u"Stopped: "_s + file.filePath()};
+    // A link goes, not what it leads to.
+    if (!file.isDir() || file.isSymLink())
+        return removedFile(file);
+    Result first;
+    const QDir folder(file.filePath());
+    for (const QFileInfo &entry : folder.entryInfoList(QDir::AllEntries | shown))
+        if (Result inside = removed(desk, entry); !inside && first)
+            first = inside;
+    if (first && !QDir().rmdir(file.filePath()))
+        first = {FtpError::LocalFile, u"Can't be deleted: "_s + file.filePath()};
+    return first;
 }
 
 } // namespace
@@ -50,7 +67,6 @@ Result LocalBrowser::showFolder(const QString &directory)
     m_desk.localDir = isThere ? directory : Panes::NormalizePath(directory, false);
     const QString path = Panes::asFolder(m_desk.localDir, false);
     const QDir folder(path);
-    const auto shown = QDir::Hidden | QDir::System | QDir::NoDotAndDotDot;
     PaneRows folders;
     PaneRows files;
     for (const QFileInfo &entry : folder.entryInfoList(QDir::Dirs | shown, QDir::Name))
@@ -120,11 +136,13 @@ void LocalBrowser::DeleteLocal(std::vector<QueueItem> queue)
     }
     m_desk.commandsOff();
     view.EnableDirBoxes(false, false);
+    m_desk.isStopped = false;
+    view.enableAbort(true);
     for (const QueueItem &item : queue) {
         const QString path = Panes::asFolder(item.Path, false) + item.Name;
         const bool isFolder = Panes::isFolder(item.Icon);
         m_desk.showFileInfo((isFolder ? u"Folder:"_s : u"File:"_s) + item.Name, isFolder ? QString() : item.Size);
-        const Result deleted = removed(path);
+        const Result deleted = removed(m_desk, QFileInfo(path));
         m_desk.showFileInfo({}, {});
         if (deleted) {
             std::erase_if(m_desk.localRows, [&item](const PaneRow &row) { return row.text == item.Name; });
@@ -134,8 +152,10 @@ void LocalBrowser::DeleteLocal(std::vector<QueueItem> queue)
         }
         view.AddStatusRow(
             {deleted ? u"Delete"_s : u"Delete Denied"_s, path, item.Size, {}, {}, m_desk.settings.RemoteHost});
-        view.breathe();
+        if (deleted.number() == FtpError::Aborted)
+            break;
     }
+    view.enableAbort(false);
     view.showLocal(m_desk.localRows);
     view.EnableDirBoxes(true, true);
     m_desk.commandsBack();

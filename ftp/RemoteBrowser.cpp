@@ -231,7 +231,9 @@ bool RemoteBrowser::rename(int row, const QString &newName)
     if (!m_desk.Ftp1.Rename(oldName, newName) || !Panes::at(m_desk.remoteRows, row))
         return false;
     PaneRow &renamed = m_desk.remoteRows[size_t(row)];
-    renamed.tag = Panes::asFolder(m_desk.remoteDir, true) + newName;
+    const QString directory = Panes::asFolder(m_desk.remoteDir, true);
+    m_desk.view.forgetRemoteDir(directory + oldName);
+    renamed.tag = directory + newName;
     renamed.text = newName;
     return true;
 }

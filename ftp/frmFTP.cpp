@@ -132,6 +132,7 @@ void frmFTP::wireCommands()
     QObject::connect(m_ui->mnuSettings, &QAction::triggered, this, [this] { ShowSettings(false); });
     QObject::connect(m_ui->cmdAbort, &QPushButton::clicked, this, [this] {
         m_ui->cmdAbort->setEnabled(false);
+        m_desk.isStopped = true;
         m_desk.Ftp1.Abort();
     });
     on(m_ui->NewFolder, &frmFTP::makeFolder);
@@ -247,7 +248,10 @@ void frmFTP::chooseRemote(const QString &directory)
 {
     if (!isConnected())
         return;
-    if (const Result filled = m_remote.FillRemoteList(Panes::NormalizePath(directory, true)); !filled)
+    // What the history holds was read once under this very name; only a typed text is put right.
+    const bool isKnown = m_ui->cmbRemoteDir->findText(directory, Qt::MatchFixedString | Qt::MatchCaseSensitive) >= 0;
+    const QString path = isKnown ? directory : Panes::NormalizePath(directory, true);
+    if (const Result filled = m_remote.FillRemoteList(path); !filled)
         m_desk.ShowFtpError(filled);
     addToHistory(*m_ui->cmbRemoteDir, m_desk.remoteDir);
 }

@@ -95,7 +95,7 @@ void frmFTP::dropped(FtpPane &target, FtpPane *source)
     if (const PaneRow *folder = Panes::at(rows, target.dropRow()); folder && Panes::isFolder(folder->icon))
         directory += folder->text;
     const QString count = QString::number(m_queue.items().size());
-    const bool go = (store || isConnected()) && (!store || isConnected()) && !m_queue.items().empty()
+    const bool go = isConnected() && !m_queue.items().empty()
                     && confirm((store ? u"Store "_s : u"Retrieve "_s) + count + u" selected Files or Folders?"_s,
                                store ? u"Store..."_s : u"Retrieve..."_s);
     if (!go)
