@@ -9,7 +9,7 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
-constexpr auto shown = QDir::Hidden | QDir::System | QDir::NoDotAndDotDot;
+constexpr auto hiddenToo = QDir::Hidden | QDir::System | QDir::NoDotAndDotDot;
 
 PaneRow rowOf(const QFileInfo &file, const QString &icon, const QString &directory)
 {
@@ -40,7 +40,7 @@ Result removed(FtpDesk &desk, const QFileInfo &file)
         return removedFile(file);
     Result first;
     const QDir folder(file.filePath());
-    for (const QFileInfo &entry : folder.entryInfoList(QDir::AllEntries | shown))
+    for (const QFileInfo &entry : folder.entryInfoList(QDir::AllEntries | hiddenToo))
         if (Result inside = removed(desk, entry); !inside && first)
             first = inside;
     if (first && !QDir().rmdir(file.filePath()))
@@ -69,9 +69,9 @@ Result LocalBrowser::showFolder(const QString &directory)
     const QDir folder(path);
     PaneRows folders;
     PaneRows files;
-    for (const QFileInfo &entry : folder.entryInfoList(QDir::Dirs | shown, QDir::Name))
+    for (const QFileInfo &entry : folder.entryInfoList(QDir::Dirs | hiddenToo, QDir::Name))
         folders.push_back(rowOf(entry, u"FolderClose"_s, path));
-    for (const QFileInfo &entry : folder.entryInfoList(QDir::Files | shown, QDir::Name))
+    for (const QFileInfo &entry : folder.entryInfoList(QDir::Files | hiddenToo, QDir::Name))
         if (!WholeFile::isTemporaryName(entry.fileName()))
             files.push_back(rowOf(entry, Panes::fileIcon(entry.fileName()), path));
     m_desk.localRows = Panes::sortedFolders(std::move(folders), std::move(files));

@@ -2,6 +2,27 @@
 
 #include <QFile>
 #include <QImageReader>
+#include <QtEndian>
+
+namespace {
+
+/// The end mark counts behind the start of the scan only: a preview in the head has one of its own. What cameras and
+/// programs add behind it is of no account. Markers and lengths: ITU-T T.81, B.1.1.
+bool hasEndOfJpeg(QByteArrayView bytes)
+{
+    constexpr qsizetype markerAndLength = 4;
+    for (qsizetype at = 2; at + markerAndLength <= bytes.size();) {
+        if (bytes[at] != char(0xFF))
+            return false;
+        if (bytes[at + 1] == char(0xDA))
+            return bytes.sliced(at).contains("\xFF\xD9");
+        const bool isFill = bytes[at + 1] == char(0xFF);
+        at += isFill ? 1 : 2 + qFromBigEndian<quint16>(bytes.data() + at + 2);
+    }
+    return false;
+}
+
+} // namespace
 
 QPixmap Picture::fitted(const QString &path, const QSize &size)
 {
@@ -27,13 +48,10 @@ bool Picture::isWhole(const QString &path)
     QFile file(path);
     if (!file.open(QIODevice::ReadOnly))
         return false;
-    // Their last bytes say that nothing is missing; what some programs add behind them is short.
-    constexpr qint64 added = 4096;
-    file.seek(std::max<qint64>(0, file.size() - added));
-    const QByteArray end = file.readAll();
+    const QByteArray bytes = file.readAll();
     if (format == "jpeg")
-        return end.contains("\xFF\xD9");
+        return hasEndOfJpeg(bytes);
     if (format == "png")
-        return end.contains("IEND");
-    return format != "gif" || end.contains(';');
+        return bytes.contains("IEND");
+    return format != "gif" || bytes.last(std::min<qsizetype>(bytes.size(), 4096)).contains(';');
 }
