@@ -123,7 +123,8 @@ bool LocalBrowser::rename(int row, const QString &newName)
     return true;
 }
 
-void LocalBrowser::DeleteLocal(std::vector<QueueItem> queue)
+// A copy: events run in between, and a drag begun meanwhile fills the queue anew.
+void LocalBrowser::DeleteLocal(std::vector<QueueItem> queue) // NOLINT(performance-unnecessary-value-param)
 {
     if (queue.empty())
         return;
