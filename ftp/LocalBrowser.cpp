@@ -124,7 +124,8 @@ bool LocalBrowser::rename(int row, const QString &newName)
 }
 
 // A copy: events run in between, and a drag begun meanwhile fills the queue anew.
-void LocalBrowser::DeleteLocal(std::vector<QueueItem> queue) // NOLINT(performance-unnecessary-value-param)
+// NOLINTNEXTLINE(performance-unnecessary-value-param)
+void LocalBrowser::DeleteLocal(std::vector<QueueItem> queue)
 {
     if (queue.empty())
         return;

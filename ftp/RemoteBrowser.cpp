@@ -2,6 +2,7 @@
 
 #include <QFile>
 
+#include <ranges>
 #include <tuple>
 
 using namespace Qt::StringLiterals;
@@ -258,6 +259,8 @@ void RemoteBrowser::ViewRemoteFile(int row)
     m_desk.commandsBack();
 }
 
+// Copies: events run in between, and may change what the caller holds.
+// NOLINTNEXTLINE(performance-unnecessary-value-param)
 void RemoteBrowser::DeleteRemote(QString directory, std::vector<QueueItem> queue)
 {
     if (queue.empty())
@@ -332,7 +335,7 @@ Result RemoteBrowser::DeleteRemoteTree(const QString &start, const QString &path
                 m_desk.view.AppendLog(u"This folder's name can't be kept: "_s + inside + u"\r\n"_s);
             else if (entry.Type == u"d"_s && folder.depth < deepest)
                 open.push_back({inside, folder.depth + 1});
-            else if (const Result deleted = ftp.Delete(inside); isOver(deleted))
+            else if (Result deleted = ftp.Delete(inside); isOver(deleted))
                 return deleted;
         }
     }
@@ -340,8 +343,8 @@ Result RemoteBrowser::DeleteRemoteTree(const QString &start, const QString &path
         return back;
     Result removed;
     // Each folder stands behind the one that holds it; the last answer is that of the tree.
-    for (auto folder = emptied.rbegin(); folder != emptied.rend(); ++folder) {
-        removed = ftp.RemoveDirectory(*folder);
+    for (const QString &folder : emptied | std::views::reverse) {
+        removed = ftp.RemoveDirectory(folder);
         if (isOver(removed))
             return removed;
     }

@@ -82,6 +82,8 @@ void TransferQueue::AddStatusRow(const QString &status, const QString &local, co
     m_desk.view.AddStatusRow({status, local, size, direction, remote, m_desk.settings.RemoteHost});
 }
 
+// Both take a copy: events run in between, and the pane's folder may change.
+// NOLINTNEXTLINE(performance-unnecessary-value-param)
 void TransferQueue::StoreQueue(QString targetDirectory)
 {
     m_desk.view.EnableDirBoxes(false, false);
@@ -113,6 +115,7 @@ void TransferQueue::StoreQueue(QString targetDirectory)
     cleanUp(true);
 }
 
+// NOLINTNEXTLINE(performance-unnecessary-value-param)
 void TransferQueue::RetrieveQueue(QString targetDirectory)
 {
     m_desk.view.EnableDirBoxes(false, false);

@@ -14,8 +14,8 @@ enum Column { Key = 1, Text };
 
 }
 
-frmTrad::frmTrad(Session &screenSession, const QString &Tag, const QString &caption, QWidget *parent)
-    : Screen(screenSession, parent), m_ui(std::make_unique<Ui::frmTrad>()), m_section(Tag)
+frmTrad::frmTrad(Session &screenSession, QString Tag, const QString &caption, QWidget *parent)
+    : Screen(screenSession, parent), m_ui(std::make_unique<Ui::frmTrad>()), m_section(std::move(Tag))
 {
     m_ui->setupUi(this);
     Spread &grid = *m_ui->fpSpread1;

@@ -13,7 +13,7 @@ class frmTrad : public Screen {
     Q_OBJECT
 public:
     /// `Tag` is the section of the window it was opened from, `caption` that window's.
-    frmTrad(Session &session, const QString &Tag, const QString &caption, QWidget *parent);
+    frmTrad(Session &session, QString Tag, const QString &caption, QWidget *parent);
     ~frmTrad() override;
 
     /// A second one over the same texts would undo the work of the first.

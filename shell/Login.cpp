@@ -50,7 +50,7 @@ QString AdminPassword::read(const SettingsStore &settings)
 {
     const QString stored = settings.value(application, SettingsKey::section, u"mk"_s);
     if (stored.isEmpty() && !settings.check(application))
-        return QString(QChar(0));
+        return QChar(0);
     return stored.isEmpty() ? stored : Cipher::DecryptText(passPhrase, stored).value_or(stored);
 }
 
