@@ -65,7 +65,7 @@ std::optional<QLatin1StringView> inTabText(QChar c, QChar previous)
 
 std::optional<QLatin1StringView> inQuotes(QChar c, QChar previous)
 {
-    return c == u'"' ? "\"\""_L1 : inTabText(c, previous);
+    return c == u'"' ? R"("")"_L1 : inTabText(c, previous);
 }
 
 std::optional<QLatin1StringView> inHtml(QChar c, QChar previous)
@@ -141,7 +141,7 @@ QByteArray CellTable::toHtml(const QString &title) const
     for (int row = 0; row < rows; ++row) {
         out.row += "<tr>"_L1;
         for (int column = 0; column < headings.size(); ++column) {
-            out.row += numeric.value(column) ? "<td class=\"n\">"_L1 : "<td>"_L1;
+            out.row += numeric.value(column) ? R"(<td class="n">)"_L1 : "<td>"_L1;
             append(out.row, text(column, row), inHtml);
             out.row += "</td>"_L1;
         }

@@ -68,7 +68,7 @@ QString CodePage::decode(QByteArrayView bytes)
     QString text(bytes.size(), Qt::Uninitialized);
     QChar *out = text.data();
     for (const char b : bytes) {
-        const uchar byte = uchar(b);
+        const auto byte = uchar(b);
         *out++ = QChar(byte >= 0x80 && byte < 0xA0 ? upperControls[byte - 0x80] : char16_t(byte));
     }
     return text;

@@ -64,7 +64,7 @@ QImage pictureOnX11()
 QImage ForegroundWindow::picture()
 {
 #ifdef ZELVANTOR_XCB
-    if (const QImage picture = pictureOnX11(); !picture.isNull())
+    if (QImage picture = pictureOnX11(); !picture.isNull())
         return picture;
 #endif
     QWidget *own = QApplication::activeWindow();

@@ -267,7 +267,7 @@ Result FtpClient::Private::transfer(FtpRequest &request, const QString &remoteFi
             return refused;
         serverIsEbcdic = true;
     } else if (std::exchange(serverIsEbcdic, false)) {
-        request.commands.push_back("TYPE I");
+        request.commands.emplace_back("TYPE I");
     }
     return perform(request, word);
 }

@@ -4,13 +4,14 @@
 #include <unistd.h>
 
 #include <memory>
+#include <ranges>
 
 using namespace Qt::StringLiterals;
 
 namespace {
 
-constexpr qsizetype longestReplies = 256 * 1024; ///< of one request; more is a server that never ends
-constexpr qsizetype longestListing = 32 * 1024 * 1024;
+constexpr qsizetype longestReplies = qsizetype(256) * 1024; ///< of one request; more is a server that never ends
+constexpr qsizetype longestListing = qsizetype(32) * 1024 * 1024;
 constexpr long waitStep = 10;    ///< milliseconds
 constexpr qint64 countStep = 50; ///< milliseconds between two counts of bytes
 
@@ -26,9 +27,9 @@ bool isStart(QByteArrayView command, const char *word)
 
 const FtpExchange *FtpOutcome::exchange(const char *word) const
 {
-    for (auto one = exchanges.rbegin(); one != exchanges.rend(); ++one) {
-        if (isStart(one->command, word))
-            return &*one;
+    for (const FtpExchange &one : exchanges | std::views::reverse) {
+        if (isStart(one.command, word))
+            return &one;
     }
     return nullptr;
 }
@@ -56,7 +57,7 @@ struct FtpWireCall {
     static size_t write(const char *data, size_t size, size_t count, void *self)
     {
         auto &wire = *static_cast<FtpWire *>(self);
-        const auto bytes = qsizetype(size * count);
+        const qsizetype bytes = qsizetype(size) * qsizetype(count);
         if (wire.m_request->kind == FtpRequest::Kind::List) {
             if (wire.m_request->listing.size() + bytes > longestListing) {
                 wire.m_flooded = true;
@@ -74,7 +75,7 @@ struct FtpWireCall {
     static size_t read(char *data, size_t size, size_t count, void *self)
     {
         auto &wire = *static_cast<FtpWire *>(self);
-        const qint64 bytes = wire.m_file.read(data, qint64(size * count));
+        const qint64 bytes = wire.m_file.read(data, qint64(size) * qint64(count));
         if (bytes < 0) {
             wire.m_outcome->localFailure = true;
             return CURL_READFUNC_ABORT;

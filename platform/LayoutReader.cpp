@@ -245,7 +245,7 @@ QRectF LayoutReader::rectangle(const QJsonValue &value, const QString &place)
 {
     const QJsonArray sides4 = value.toArray();
     bool isWhole = sides4.size() == 4;
-    for (const QJsonValue &side : sides4)
+    for (const QJsonValueConstRef side : sides4)
         isWhole = isWhole && side.isDouble();
     const QRectF taken(QPointF(sides4.at(0).toDouble(), sides4.at(1).toDouble()),
                        QPointF(sides4.at(2).toDouble(), sides4.at(3).toDouble()));

@@ -9,8 +9,8 @@ using namespace Qt::StringLiterals;
 
 QPointF PrintCells::corner(int cell) const
 {
-    return first.topLeft()
-           + QPointF((cell % columns) * (first.width() + gapX), (cell / columns) * (first.height() + gapY));
+    const int row = cell / columns;
+    return first.topLeft() + QPointF((cell % columns) * (first.width() + gapX), row * (first.height() + gapY));
 }
 
 Result PrintLayout::read(const QString &path, PrintLayout &layout)

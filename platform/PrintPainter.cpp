@@ -238,5 +238,5 @@ void PrintPainter::paintWrongCode(const PrintObject &object, const QString &code
 
 QRectF PrintPainter::dots(const QRectF &place) const
 {
-    return QRectF(place.topLeft() * m_scale - m_origin, place.size() * m_scale);
+    return {place.topLeft() * m_scale - m_origin, place.size() * m_scale};
 }

@@ -31,7 +31,7 @@ QVariant SpreadModel::data(const QModelIndex &index, int role) const
         return {};
     case Qt::TextAlignmentRole:
         if (cellType(column, row) == CellType::Number)
-            return QVariant(Qt::AlignRight | Qt::AlignVCenter);
+            return int(Qt::AlignRight | Qt::AlignVCenter);
         return {};
     case Qt::DecorationRole: {
         const auto picture = m_pictures.constFind(at(column, row));
@@ -63,7 +63,7 @@ bool SpreadModel::setData(const QModelIndex &index, const QVariant &value, int r
 QVariant SpreadModel::headerData(int section, Qt::Orientation orientation, int role) const
 {
     if (orientation == Qt::Horizontal && role == Qt::TextAlignmentRole && columnType(section + 1) == CellType::Number)
-        return QVariant(Qt::AlignRight | Qt::AlignVCenter);
+        return int(Qt::AlignRight | Qt::AlignVCenter);
     if (role != Qt::DisplayRole)
         return {};
     return orientation == Qt::Horizontal ? QVariant(m_headings.value(section)) : QVariant(section + 1);
