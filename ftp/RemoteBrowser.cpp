@@ -2,7 +2,7 @@
 
 #include <QFile>
 
-#include <ranges>
+#include <algorithm>
 #include <tuple>
 
 using namespace Qt::StringLiterals;
@@ -343,7 +343,8 @@ Result RemoteBrowser::DeleteRemoteTree(const QString &start, const QString &path
         return back;
     Result removed;
     // Each folder stands behind the one that holds it; the last answer is that of the tree.
-    for (const QString &folder : emptied | std::views::reverse) {
+    std::reverse(emptied.begin(), emptied.end());
+    for (const QString &folder : emptied) {
         removed = ftp.RemoveDirectory(folder);
         if (isOver(removed))
             return removed;

@@ -3,8 +3,8 @@
 #include <sys/socket.h>
 #include <unistd.h>
 
+#include <algorithm>
 #include <memory>
-#include <ranges>
 
 using namespace Qt::StringLiterals;
 
@@ -27,11 +27,9 @@ bool isStart(QByteArrayView command, const char *word)
 
 const FtpExchange *FtpOutcome::exchange(const char *word) const
 {
-    for (const FtpExchange &one : exchanges | std::views::reverse) {
-        if (isStart(one.command, word))
-            return &one;
-    }
-    return nullptr;
+    const auto last = std::find_if(exchanges.rbegin(), exchanges.rend(),
+                                   [word](const FtpExchange &one) { return isStart(one.command, word); });
+    return last == exchanges.rend() ? nullptr : &*last;
 }
 
 /// What libcurl calls while a request runs.

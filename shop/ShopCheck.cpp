@@ -233,8 +233,8 @@ private:
             add(Finding::NotANumber, reference + u": "_s + price);
         else if (price.trimmed().toDouble() < 0)
             add(Finding::NegativePrice, reference + u", "_s + price);
-        const bool breaksSearch = description.contains(u'\\')
-                                  || (description.contains(u'"') && HtmlVersTexte(description).contains(u'"'));
+        const bool breaksSearch =
+            description.contains(u'\\') || (description.contains(u'"') && HtmlVersTexte(description).contains(u'"'));
         if (m_data.settings.chSearch && breaksSearch)
             add(Finding::QuoteInText, reference + u" / "_s + name);
         if (holdsAny(name, u"\"\\"))

@@ -145,7 +145,8 @@ void BadInputTest::missingPieces_data()
     const QString french = u"FR.cda"_s;
     row("language file", remove(french), french, u"introuvable"_s);
     row("folder for a language file", folderInsteadOf(french), french, u" : "_s);
-    row("broken line", change(french, [](auto bytes) { return "[CATALOG]\nno value\n" + bytes; }), french, u"2"_s);
+    row("broken line", change(french, [](auto bytes) -> QByteArray { return "[CATALOG]\nno value\n" + bytes; }), french,
+        u"2"_s);
     row("other code page", change(french, [](auto bytes) { return CodePage::encode(QString::fromUtf8(bytes)); }),
         french, u"windows-1252"_s);
     row("other encoding",
