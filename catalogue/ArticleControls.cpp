@@ -9,6 +9,8 @@
 #include <QGroupBox>
 #include <QLabel>
 #include <QListWidget>
+#include <QRegularExpression>
+#include <QSet>
 #include <QTabWidget>
 
 using namespace Qt::StringLiterals;
@@ -61,14 +63,30 @@ Control &find(const QWidget &screen, const QString &name)
     return *screen.findChild<Control *>(name);
 }
 
-QString nameColumn(const QWidget &screen, int i)
+/// The captions name the languages of their boxes. Where a language file has made something else of them, they say
+/// nothing any more, and each box keeps the language it was drawn for.
+QStringList codes(const QStringList &captions)
 {
-    return u"sNom"_s + find<QLabel>(screen, u"lbNom_%1"_s.arg(i)).text();
+    const QSet<QString> known(captions.begin(), captions.end());
+    const QStringList &languages = Article::languages();
+    return known == QSet<QString>(languages.begin(), languages.end()) ? captions : languages;
 }
 
-QString descriptionColumn(const QWidget &screen, int i)
+QStringList columnsOfNames(const QWidget &screen)
 {
-    return u"sObservation"_s + find<QTabWidget>(screen, u"SSTab1"_s).tabText(i);
+    QStringList captions;
+    for (int i = 0; i < Article::languages().size(); ++i)
+        captions << find<QLabel>(screen, u"lbNom_%1"_s.arg(i)).text();
+    return codes(captions).replaceInStrings(QRegularExpression(u"^"_s), u"sNom"_s);
+}
+
+QStringList columnsOfDescriptions(const QWidget &screen)
+{
+    const auto &tabs = find<QTabWidget>(screen, u"SSTab1"_s);
+    QStringList captions;
+    for (int i = 0; i < tabs.count(); ++i)
+        captions << tabs.tabText(i);
+    return codes(captions).replaceInStrings(QRegularExpression(u"^"_s), u"sObservation"_s);
 }
 
 /// A text longer than its box shows its beginning.
@@ -89,11 +107,13 @@ void ArticleControls::show(const Article &article, QWidget &screen)
         if (article.has(pair.column))
             find<NumberBox>(screen, pair.control).showStored(article.text(pair.column));
     }
+    const QStringList names = columnsOfNames(screen);
+    const QStringList descriptions = columnsOfDescriptions(screen);
     for (int i = 0; i < Article::languages().size(); ++i) {
-        if (const QString column = nameColumn(screen, i); article.has(column))
-            showFromStart(find<QLineEdit>(screen, u"txtNom_%1"_s.arg(i)), article.text(column));
-        if (const QString column = descriptionColumn(screen, i); article.has(column))
-            find<TextBox>(screen, u"txtObservation_%1"_s.arg(i)).showText(article.text(column));
+        if (article.has(names[i]))
+            showFromStart(find<QLineEdit>(screen, u"txtNom_%1"_s.arg(i)), article.text(names[i]));
+        if (article.has(descriptions[i]))
+            find<TextBox>(screen, u"txtObservation_%1"_s.arg(i)).showText(article.text(descriptions[i]));
     }
     for (const Pair &pair : ticks())
         if (article.has(pair.column))
@@ -106,9 +126,11 @@ void ArticleControls::take(Article &article, const QWidget &screen)
         article.setText(pair.column, oneLine(find<QLineEdit>(screen, pair.control).text()));
     for (const Pair &pair : numbers())
         article.setText(pair.column, find<NumberBox>(screen, pair.control).text());
+    const QStringList names = columnsOfNames(screen);
+    const QStringList descriptions = columnsOfDescriptions(screen);
     for (int i = 0; i < Article::languages().size(); ++i) {
-        article.setText(nameColumn(screen, i), oneLine(find<QLineEdit>(screen, u"txtNom_%1"_s.arg(i)).text()));
-        article.setText(descriptionColumn(screen, i), find<TextBox>(screen, u"txtObservation_%1"_s.arg(i)).text());
+        article.setText(names[i], oneLine(find<QLineEdit>(screen, u"txtNom_%1"_s.arg(i)).text()));
+        article.setText(descriptions[i], find<TextBox>(screen, u"txtObservation_%1"_s.arg(i)).text());
     }
     for (const Pair &pair : ticks())
         article.setNumber(pair.column, find<QCheckBox>(screen, pair.control).isChecked() ? 1 : 0);
@@ -155,7 +177,9 @@ void ArticleControls::keepCapital(QLineEdit &box)
 std::optional<ArticleControls::Missing> ArticleControls::missing(const QWidget &screen)
 {
     const auto isChosen = [&](const QString &name) { return find<QComboBox>(screen, name).currentIndex() >= 0; };
-    const auto isTyped = [&](const QString &name) { return !find<QLineEdit>(screen, name).text().trimmed().isEmpty(); };
+    const auto isTyped = [&](const QString &name) {
+        return !oneLine(find<QLineEdit>(screen, name).text()).trimmed().isEmpty();
+    };
     struct Need {
         bool met;
         QString message;
