@@ -200,6 +200,16 @@ void Spread::emptyCell()
     m_edited = true;
 }
 
+/// Tab comes in where something can be typed.
+void Spread::focusInEvent(QFocusEvent *event)
+{
+    QTableView::focusInEvent(event);
+    const bool byTab = event->reason() == Qt::TabFocusReason || event->reason() == Qt::BacktabFocusReason;
+    if (m_mode == OperationMode::Normal && byTab && !(m_cells->flags(currentIndex()) & Qt::ItemIsEditable))
+        if (const QModelIndex cell = editableNeighbour(true); cell.isValid())
+            setCurrentIndex(cell);
+}
+
 void Spread::focusOutEvent(QFocusEvent *event)
 {
     QTableView::focusOutEvent(event);

@@ -4,9 +4,12 @@
 #include "platform/SpreadModel.h"
 
 #include <QComboBox>
+#include <QKeyEvent>
 #include <QLineEdit>
 
 namespace {
+
+constexpr const char *before = "before"; ///< property of a combo box: what the cell held when the editor opened
 
 const SpreadModel &cellsOf(const QModelIndex &index)
 {
@@ -19,6 +22,7 @@ QComboBox *SpreadDelegate::createCombo(QWidget *parent, const QModelIndex &index
 {
     auto *combo = new QComboBox(parent);
     combo->setEditable(isFree);
+    combo->setCompleter(nullptr); // it would make a listed value of every typed beginning of one
     combo->addItems(cellsOf(index).choices(index.column() + 1, index.row() + 1));
     // What is picked counts at once, not only when the cell is left.
     auto *self = const_cast<SpreadDelegate *>(this);
@@ -49,6 +53,8 @@ void SpreadDelegate::setEditorData(QWidget *editor, const QModelIndex &index) co
             combo->setEditText(text);
         else
             combo->setCurrentIndex(cellsOf(index).choiceIndex(index.column() + 1, index.row() + 1));
+        if (!combo->property(before).isValid())
+            combo->setProperty(before, combo->isEditable() ? QVariant(text) : QVariant(combo->currentIndex()));
         return;
     }
     if (auto *line = qobject_cast<QLineEdit *>(editor); line && line->validator())
@@ -71,4 +77,19 @@ void SpreadDelegate::setModelData(QWidget *editor, QAbstractItemModel *model, co
         QStyledItemDelegate::setModelData(editor, model, index);
     else if (line->hasAcceptableInput())
         model->setData(index, NumberValidator::tidy(line->text()), Qt::EditRole);
+}
+
+/// Escape takes back what was picked and has counted already.
+bool SpreadDelegate::eventFilter(QObject *editor, QEvent *event)
+{
+    auto *combo = qobject_cast<QComboBox *>(editor);
+    if (combo && event->type() == QEvent::KeyPress && static_cast<QKeyEvent *>(event)->key() == Qt::Key_Escape) {
+        const QVariant kept = combo->property(before);
+        if (combo->isEditable())
+            combo->setEditText(kept.toString());
+        else
+            combo->setCurrentIndex(kept.toInt());
+        Q_EMIT commitData(combo);
+    }
+    return QStyledItemDelegate::eventFilter(editor, event);
 }

@@ -14,6 +14,9 @@ public:
     void setEditorData(QWidget *editor, const QModelIndex &index) const override;
     void setModelData(QWidget *editor, QAbstractItemModel *model, const QModelIndex &index) const override;
 
+protected:
+    bool eventFilter(QObject *editor, QEvent *event) override;
+
 private:
     QComboBox *createCombo(QWidget *parent, const QModelIndex &index, bool isFree) const;
 };
