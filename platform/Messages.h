@@ -12,6 +12,8 @@ public:
     virtual void warn(const QString &text, const QString &title) { box(text, title); }
     /// A box with Yes and No; true for Yes.
     virtual bool question(const QString &text, const QString &title) = 0;
+    /// The same where a Yes loses something: Enter says No.
+    virtual bool riskyQuestion(const QString &text, const QString &title) { return question(text, title); }
     /// A box with OK and Cancel; true for OK.
     virtual bool confirm(const QString &text, const QString &title) { return question(text, title); }
     /// A beep without a window; `text` says what for, and goes to the log.

@@ -22,7 +22,8 @@ void DetailEditor::fill()
 void DetailEditor::keyPressEvent(QKeyEvent *event)
 {
     const QString question = session().localisation.Traduire(u"MESSAGES"_s, u"leaverows"_s);
-    if (event->key() != Qt::Key_Escape || !m_pane->hasMarks() || session().messages->question(question, windowTitle()))
+    if (event->key() != Qt::Key_Escape || !m_pane->hasMarks()
+        || session().messages->riskyQuestion(question, windowTitle()))
         Screen::keyPressEvent(event);
 }
 

@@ -93,7 +93,8 @@ bool DetailPane::hasMarks() const
     for (int row = 1; row <= m_grid->MaxRows(); ++row)
         if (m_grid->text(MarkColumn, row) != stored)
             return true;
-    return false;
+    const auto isTypedIn = [](const QLineEdit *box) { return box->isModified() && !box->text().trimmed().isEmpty(); };
+    return isTypedIn(m_code) || isTypedIn(m_label);
 }
 
 DetailRow DetailPane::rowAt(int row) const

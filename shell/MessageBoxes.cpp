@@ -21,6 +21,16 @@ void showBox(QMessageBox::Icon icon, const QString &text, const QString &title)
     message.exec();
 }
 
+/// Whether `yes` was chosen; `first` is what Enter gives.
+bool isChosen(QMessageBox::StandardButton yes, QMessageBox::StandardButton no, QMessageBox::StandardButton first,
+              const QString &text, const QString &title)
+{
+    QMessageBox message(QMessageBox::Question, title, text, yes | no, QApplication::activeWindow());
+    message.setTextFormat(Qt::PlainText);
+    message.setDefaultButton(first);
+    return message.exec() == yes;
+}
+
 } // namespace
 
 void MessageBoxes::box(const QString &text, const QString &title)
@@ -35,18 +45,17 @@ void MessageBoxes::warn(const QString &text, const QString &title)
 
 bool MessageBoxes::question(const QString &text, const QString &title)
 {
-    QMessageBox message(QMessageBox::Question, title, text, QMessageBox::Yes | QMessageBox::No,
-                        QApplication::activeWindow());
-    message.setTextFormat(Qt::PlainText);
-    return message.exec() == QMessageBox::Yes;
+    return isChosen(QMessageBox::Yes, QMessageBox::No, QMessageBox::Yes, text, title);
+}
+
+bool MessageBoxes::riskyQuestion(const QString &text, const QString &title)
+{
+    return isChosen(QMessageBox::Yes, QMessageBox::No, QMessageBox::No, text, title);
 }
 
 bool MessageBoxes::confirm(const QString &text, const QString &title)
 {
-    QMessageBox message(QMessageBox::Question, title, text, QMessageBox::Ok | QMessageBox::Cancel,
-                        QApplication::activeWindow());
-    message.setTextFormat(Qt::PlainText);
-    return message.exec() == QMessageBox::Ok;
+    return isChosen(QMessageBox::Ok, QMessageBox::Cancel, QMessageBox::Ok, text, title);
 }
 
 void MessageBoxes::alert(const QString &text)

@@ -9,6 +9,7 @@ public:
     void box(const QString &text, const QString &title) override;
     void warn(const QString &text, const QString &title) override;
     bool question(const QString &text, const QString &title) override;
+    bool riskyQuestion(const QString &text, const QString &title) override;
     bool confirm(const QString &text, const QString &title) override;
     void alert(const QString &text) override;
 };
