@@ -124,6 +124,7 @@ void frmListProduct::wireKeys()
     const auto press = [](QWidget *where, const QKeySequence &keys, QPushButton *button) {
         auto *shortcut = new QShortcut(keys, where);
         shortcut->setContext(Qt::WidgetWithChildrenShortcut);
+        shortcut->setAutoRepeat(false);
         connect(shortcut, &QShortcut::activated, button, [button] { button->click(); });
     };
     press(this, Qt::Key_F5, m_ui->CmdRechPort);

@@ -10,6 +10,7 @@
 #include <QPushButton>
 #include <QShortcut>
 #include <QSplitter>
+#include <QToolButton>
 
 using namespace Qt::StringLiterals;
 
@@ -89,9 +90,12 @@ void Screen::done(int result)
 void Screen::keyPressEvent(QKeyEvent *event)
 {
     const bool isEnter = event->key() == Qt::Key_Return || event->key() == Qt::Key_Enter;
-    if (auto *button = qobject_cast<QPushButton *>(focusWidget()); isEnter && button)
-        button->click();
-    else if (!isEnter || !qobject_cast<QAbstractItemView *>(focusWidget()))
+    QWidget *focus = focusWidget();
+    if (isEnter && event->isAutoRepeat())
+        return; // held down since the window before
+    if (isEnter && (qobject_cast<QPushButton *>(focus) || qobject_cast<QToolButton *>(focus)))
+        static_cast<QAbstractButton *>(focus)->click();
+    else if (!isEnter || !qobject_cast<QAbstractItemView *>(focus))
         QDialog::keyPressEvent(event);
 }
 
