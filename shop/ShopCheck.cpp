@@ -284,7 +284,7 @@ private:
                 add(Finding::PicturesOfOneName, *product + u" / "_s + name);
             if (!QFileInfo(path).isFile())
                 add(Finding::PictureGone, *product + u" / "_s + path);
-            if (holdsAny(name, u"#%?\""))
+            if (holdsAny(name, u"#%?\"@'"))
                 add(Finding::BadFileName, *product + u" / "_s + name);
             if (losesCharacters(name))
                 add(Finding::CharactersInPictureName, *product + u" / "_s + name);
