@@ -38,6 +38,16 @@ QString apostropheText(const Session &session, const QString &path)
         .arg(path);
 }
 
+/// The stored paths with the changes of one person and those of another.
+QStringList merged(const QStringList &opened, const QStringList &wanted, QStringList stored)
+{
+    stored.removeIf([&](const QString &path) { return opened.contains(path) && !wanted.contains(path); });
+    for (const QString &path : wanted)
+        if (!opened.contains(path) && !stored.contains(path))
+            stored << path;
+    return stored;
+}
+
 } // namespace
 
 Result Attachments::documents(Session &session, QStringList &paths)
@@ -79,7 +89,7 @@ Result Attachments::AjouterDoc(Session &session, const QString &path)
     return insert(session, path);
 }
 
-Attachments::Failures Attachments::replace(Session &session, const QStringList &paths)
+Attachments::Failures Attachments::replace(Session &session, const QStringList &opened, QStringList paths)
 {
     StoreAction action(session.gCnn);
     if (!action.begun())
@@ -87,6 +97,8 @@ Attachments::Failures Attachments::replace(Session &session, const QStringList &
     QStringList before;
     if (const Result read = AfficherDocs(session, before); !read)
         return {{u"AfficherDocs"_s, read}};
+    if (before != opened)
+        paths = merged(opened, paths, before);
     const bool onlyAdds = paths.mid(0, before.size()) == before; // what stays then keeps its place in the store
     if (const Result deleted = onlyAdds ? Result() : SupprimerDoc(session); !deleted)
         return {{u"SupprimerDoc"_s, deleted}}; // going on would write every path a second time

@@ -24,9 +24,10 @@ Result SupprimerDoc(Session &session);
 /// A path with an apostrophe is refused: it would end the text that it stands in.
 Result AjouterDoc(Session &session, const QString &path);
 
-/// Puts `paths` in the place of the stored ones. A path that fails leaves the others done and, where it was stored
-/// before, stays stored; over a locked store nothing is touched.
-Failures replace(Session &session, const QStringList &paths);
+/// Stores what a person has made of the paths that were stored when the list was opened; what somebody else has added
+/// or taken out meanwhile stays so. A path that fails leaves the others done and, where it was stored before, stays
+/// stored; over a locked store nothing is touched.
+Failures replace(Session &session, const QStringList &opened, QStringList paths);
 /// Adds files from the desktop behind the stored paths, each one once.
 Failures addDroppedFiles(Session &session, const QStringList &paths);
 

@@ -12,6 +12,7 @@
 #include "catalogue/ProductPaper.h"
 #include "platform/BarcodeReader.h"
 #include "platform/Messages.h"
+#include "platform/TextBox.h"
 #include "shell/Causes.h"
 #include "shell/Screens.h"
 #include "ui_frmArticle.h"
@@ -33,6 +34,12 @@ frmArticle::frmArticle(Session &screenSession, QWidget *parent)
     : Screen(screenSession, parent), m_ui(std::make_unique<Ui::frmArticle>()), m_reader(new BarcodeReader(this))
 {
     m_ui->setupUi(this);
+    // The languages of the descriptions come before the description. The tab widget hands the focus to its bar, and
+    // as a stop of its own would lead there a second time.
+    m_ui->SSTab1->setFocusProxy(nullptr);
+    m_ui->SSTab1->setFocusPolicy(Qt::NoFocus);
+    setTabOrder(m_ui->txtDateModif, m_ui->SSTab1->tabBar());
+    setTabOrder(m_ui->SSTab1->tabBar(), m_ui->txtObservation_0);
     m_ui->spArticle->setSizes({560, 420, 310});
     session().gbChoixFichier = false;
     m_prices = std::make_unique<PriceBlock>(*this);
@@ -73,7 +80,7 @@ void frmArticle::keyPressEvent(QKeyEvent *event)
 
 bool frmArticle::mayLeave() const
 {
-    return entries() == m_opened || session().messages->question(message(u"leave"_s), title);
+    return entries() == m_opened || session().messages->riskyQuestion(message(u"leave"_s), title);
 }
 
 frmArticle::Entries frmArticle::entries() const
@@ -128,6 +135,12 @@ void frmArticle::wire()
                     m_ui->cmdFiche->setEnabled(true);
                 });
     ArticleControls::keepCapital(*m_ui->txtMarque);
+    connect(m_ui->SSTab1, &QTabWidget::currentChanged, this, [this](int tab) {
+        // The text of the other language, and not what the focus falls on in between, when its box is hidden.
+        auto *box = findChild<TextBox *>(u"txtObservation_%1"_s.arg(tab));
+        if (m_ui->SSTab1->isAncestorOf(focusWidget()) && !m_ui->SSTab1->tabBar()->hasFocus())
+            QMetaObject::invokeMethod(box, qOverload<>(&QWidget::setFocus), Qt::QueuedConnection);
+    });
     connect(m_ui->cmdTrans, &QToolButton::clicked, this,
             [this] { m_ui->txtEan->setText(Ean13::fromReference(m_ui->txtRef_Article->text())); });
     connect(m_reader, &BarcodeReader::codeRead, m_ui->txtEan, &QLineEdit::setText);
@@ -136,9 +149,14 @@ void frmArticle::wire()
         if (shown)
             m_ui->fpSpread2->setActiveCell(1, 1);
     });
-    connect(m_ui->cmdEtiquette, &QPushButton::clicked, this,
-            [this] { session().screens->showLabels(ProductPaper::label(*this), this); });
-    connect(m_ui->cmdFiche, &QPushButton::clicked, this, [this] { GenererFiche(*this, session(), VPE1); });
+    connect(m_ui->cmdEtiquette, &QPushButton::clicked, this, [this] {
+        finishEntries();
+        session().screens->showLabels(ProductPaper::label(*this), this);
+    });
+    connect(m_ui->cmdFiche, &QPushButton::clicked, this, [this] {
+        finishEntries();
+        GenererFiche(*this, session(), VPE1);
+    });
     connect(m_ui->cmdValider0, &QPushButton::clicked, this, &frmArticle::save);
     connect(m_ui->cmdFermer, &QPushButton::clicked, this, &frmArticle::reject);
 }
@@ -175,6 +193,7 @@ void frmArticle::startNewProduct()
     const ProductNumber::Taken taken = ProductNumber::ChercherNumProduit(session().gCnn);
     report(taken.failures, u"ChercherNumProduit"_s);
     session().glIdProduit = taken.number.value_or(session().glIdProduit);
+    m_isNumberStored = taken.isStored || !taken.number;
     session().gbRafraichirListe = false;
     m_ui->txtRef_Article->setText(ProductNumber::reference(session().glIdProduit, session().clock.today()));
     m_ui->txtDateCreat->setText(today());
@@ -242,6 +261,8 @@ void frmArticle::Initialiser()
     m_prices->chain().startAgain();
     m_bands->clear();
     m_ui->txtRef_Article->setFocus();
+    // Also when the key that saved took the focus from the purchase price, which hands it on.
+    QMetaObject::invokeMethod(m_ui->txtRef_Article, qOverload<>(&QWidget::setFocus), Qt::QueuedConnection);
 }
 
 void frmArticle::chooseCategory()
@@ -279,13 +300,19 @@ bool frmArticle::isComplete()
     return !missing;
 }
 
-/// Row, attributes and prices reach the store as one action; its failures are told when the store is free again.
-void frmArticle::save()
+/// A key reaches a command while a cell or a box is still being typed in.
+void frmArticle::finishEntries()
 {
     for (Spread *grid : {m_ui->fpSpread1, m_ui->fpSpread2})
         grid->finishEditing();
     for (NumberBox *box : findChildren<NumberBox *>())
         box->complete();
+}
+
+/// Row, attributes and prices reach the store as one action; its failures are told when the store is free again.
+void frmArticle::save()
+{
+    finishEntries();
     if (!isComplete() || !mayOverwrite())
         return;
     std::vector<Result> attributes;
@@ -328,10 +355,11 @@ bool frmArticle::mayOverwrite()
         return true;
     Result read;
     const Stored present = readStored(read);
-    if (!read || (present.article && present == m_stored))
+    const bool isSame = present.rows == m_stored.rows && (isMode(Consult) || present.article == m_stored.article);
+    if (!read || (present.article && isSame))
         return true; // a store that can't be read tells its failure at the save
     if (present.article)
-        return isMode(Consult) || session().messages->question(message(u"changed"_s), title);
+        return session().messages->riskyQuestion(message(u"changed"_s), title);
     session().messages->box(message(u"deleted"_s), title);
     return false;
 }
@@ -342,8 +370,13 @@ Result frmArticle::AjouterArticle()
     if (isMode(Consult))
         return {};
     Article article = takeArticle();
-    if (isMode(New))
+    if (isMode(New)) {
+        // A store that was locked when the number was taken would give it to the next product too.
+        if (!m_isNumberStored)
+            if (Result moved = ProductNumber::catchUp(session().gCnn, session().glIdProduit); !moved)
+                return moved;
         return session().gCnn.execute(article.insertStatement());
+    }
     article.setText(u"dDate_modification"_s, today());
     return session().gCnn.execute(article.updateStatement());
 }

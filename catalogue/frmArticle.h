@@ -69,6 +69,7 @@ private:
     bool mayLeave() const;
     Stored readStored(Result &read) const;
     bool mayOverwrite();
+    void finishEntries();
     void save();
     Result AjouterArticle();
     void saved();
@@ -88,8 +89,9 @@ private:
     std::unique_ptr<KeyCombo> m_colTvaV;
     BarcodeReader *m_reader;
     PrintEngine VPE1;
-    Entries m_opened;     ///< as they were when the screen was opened or last saved
-    Stored m_stored;      ///< as it was when this screen last read or wrote it
-    QString m_sCategorie; ///< the shown names, written beside the keys
+    bool m_isNumberStored = true; ///< whether the counter of the store stands at the number of the new product
+    Entries m_opened;             ///< as they were when the screen was opened or last saved
+    Stored m_stored;              ///< as it was when this screen last read or wrote it
+    QString m_sCategorie;         ///< the shown names, written beside the keys
     QString m_sFamille;
 };

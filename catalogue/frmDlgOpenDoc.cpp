@@ -153,11 +153,11 @@ void frmDlgOpenDoc::showPreview(const QListWidgetItem *entry)
 
 void frmDlgOpenDoc::AfficherDocs()
 {
-    QStringList paths;
-    if (const Result read = Attachments::AfficherDocs(session(), paths); !read)
+    m_opened.clear();
+    if (const Result read = Attachments::AfficherDocs(session(), m_opened); !read)
         session().messages->box(read.message(), u"AfficherDocs"_s);
     m_ui->lstSelected->clear();
-    m_ui->lstSelected->addItems(paths);
+    m_ui->lstSelected->addItems(m_opened);
 }
 
 bool frmDlgOpenDoc::VerifierElementListe(const QString &path) const
@@ -206,7 +206,7 @@ bool frmDlgOpenDoc::pick()
 /// After a failure the dialogue stays open with its list, to take out or rename what could not be written.
 bool frmDlgOpenDoc::writeList()
 {
-    const Attachments::Failures failures = Attachments::replace(session(), textsOf(*m_ui->lstSelected));
+    const Attachments::Failures failures = Attachments::replace(session(), m_opened, textsOf(*m_ui->lstSelected));
     (void)session().saveSetting(session().gbPhotos ? u"PATHPHOTO"_s : u"PATHDOC"_s, folder());
     for (const Attachments::Failure &failure : failures)
         session().messages->box(failure.result.message(), failure.method);

@@ -45,4 +45,5 @@ private:
     std::unique_ptr<Ui::frmDlgOpenDoc> m_ui;
     QFileSystemModel *m_folders;
     QString m_chosen;
+    QStringList m_opened; ///< the paths that were stored when the list was filled
 };
