@@ -4,9 +4,18 @@
 #include "platform/FileChooser.h"
 #include "shell/ApplicationFolder.h"
 #include "tests/support/RecordingMessages.h"
+#include "tests/support/Suite.h"
 
-#include <QTemporaryDir>
-#include <QWidget>
+#include <QAction>
+#include <QCheckBox>
+#include <QComboBox>
+#include <QLabel>
+#include <QLineEdit>
+#include <QListWidget>
+#include <QPlainTextEdit>
+#include <QPushButton>
+#include <QTabWidget>
+#include <QToolButton>
 
 #include <functional>
 #include <vector>
