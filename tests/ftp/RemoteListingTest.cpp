@@ -10,7 +10,7 @@ class RemoteListingTest : public QObject {
 private Q_SLOTS:
     void lines()
     {
-        // type|name|size|date|permission; empty for a line that isn't understood
+        // The entry is type|name|size|date|permission; empty for a line that isn't understood
         const Rows<QString, QString> rows = {
             {"year", u"-rw-r--r--   1 shop shop     1234 Jan  5  2023 index.htm"_s,
              u"-|index.htm|1234|Jan  5  2023|420"_s},

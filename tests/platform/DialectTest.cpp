@@ -8,8 +8,8 @@ class DialectTest : public QObject {
 private Q_SLOTS:
     void statement()
     {
+        // Without a second text nothing changes.
         const Rows<QString, QString> rows = {
-            // without a second text nothing changes
             {"delete with table", u"DELETE REF_INFO.* FROM REF_INFO;"_s, u"DELETE FROM REF_INFO"_s},
             {"delete in lower case", u"delete t.* from t where id = 1 ; "_s, u"delete from t where id = 1"_s},
             {"delete with star", u"DELETE * FROM T"_s, u"DELETE FROM T"_s},

@@ -120,7 +120,7 @@ private Q_SLOTS:
 
     void options()
     {
-        // terms, delivery, privacy
+        // The ticks of terms, delivery, privacy.
         const Rows<QString, QStringList> rows = {
             {"none", u"000"_s, QStringList()},
             {"terms", u"100"_s, QStringList(u"Menu6 Tm6 terme.htm"_s)},

@@ -30,8 +30,8 @@ class PagesTest : public QObject {
 private Q_SLOTS:
     void listForTheFourPairs()
     {
+        // The captions are those of the header row, "&nbsp;" over the pictures.
         const Rows<bool, bool, QStringList> rows = {
-            // of the header row, "&nbsp;" over the pictures
             {"buying, pictures", true, true, QStringList({u"&nbsp;"_s, u"T34"_s, u"T21"_s, u"T22"_s, u"T23"_s})},
             {"buying", true, false, QStringList({u"T34"_s, u"T21"_s, u"T22"_s, u"T23"_s})},
             {"pictures", false, true, QStringList({u"&nbsp;"_s, u"T34"_s, u"T21"_s, u""_s})},

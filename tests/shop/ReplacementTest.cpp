@@ -11,7 +11,7 @@ class ReplacementTest : public QObject {
 private Q_SLOTS:
     void order()
     {
-        // of [a], [b], [A]
+        // The values of [a], [b], [A].
         const Rows<QString, QStringList, QString> rows = {
             {"every occurrence", u"[a][b][a]"_s, QStringList({u"1"_s, u"2"_s, u"3"_s}), u"121"_s},
             {"case counts", u"[a] [A] [B]"_s, QStringList({u"1"_s, u"2"_s, u"3"_s}), u"1 3 [B]"_s},

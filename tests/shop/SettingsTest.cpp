@@ -61,8 +61,8 @@ private Q_SLOTS:
 
     void ticks()
     {
-        const Rows<QString, QString> rows = {// chSearch, on in a new shop, and chGratuit, off in one
-                                             {"1", u"1"_s, u"11"_s},
+        // What is ticked: chSearch, on in a new shop, and chGratuit, off in one.
+        const Rows<QString, QString> rows = {{"1", u"1"_s, u"11"_s},
                                              {"0", u"0"_s, u"00"_s},
                                              {"platform's True", u"-1"_s, u"11"_s},
                                              {"empty", u""_s, u"10"_s},
@@ -137,14 +137,13 @@ private Q_SLOTS:
 
     void languageChoice()
     {
-        const Rows<int, QString, QString> rows = {
-            // columns of the store, words, name of the entry; the session speaks NL
-            {"stored", 6, u"EN"_s, u"EN EN English"_s},
-            {"not stored", 6, u""_s, u"NL NL Nederlands"_s},
-            {"unknown keeps the fourth", 6, u"PT"_s, u"PT FR Français"_s},
-            {"few entries", 3, u"EN"_s, u"EN EN English"_s},
-            {"unknown, few entries", 3, u"PT"_s, u"PT NL "_s},
-            {"no entries", 0, u""_s, u"NL NL "_s}};
+        // What is chosen: columns of the store, words, name of the entry; the session speaks NL.
+        const Rows<int, QString, QString> rows = {{"stored", 6, u"EN"_s, u"EN EN English"_s},
+                                                  {"not stored", 6, u""_s, u"NL NL Nederlands"_s},
+                                                  {"unknown keeps the fourth", 6, u"PT"_s, u"PT FR Français"_s},
+                                                  {"few entries", 3, u"EN"_s, u"EN EN English"_s},
+                                                  {"unknown, few entries", 3, u"PT"_s, u"PT NL "_s},
+                                                  {"no entries", 0, u""_s, u"NL NL "_s}};
         for (const auto &[row, entries, stored, chosen] : rows) {
             const Row named(row);
             std::vector<Language> languages = {{u"DE"_s, u"Deutsch"_s},  {u"EN"_s, u"English"_s},
