@@ -34,6 +34,7 @@ private Q_SLOTS:
         QVERIFY(copies().list().empty());
         const QString before = m_desk->value(u"SELECT Ref_Produit FROM PARAM"_s);
         m_desk->sql(u"UPDATE PARAM SET Ref_Produit = 71"_s);
+        QVERIFY(logIn()); // a second start on the same day
         m_desk->sql(u"UPDATE PARAM SET Ref_Produit = 72"_s);
         QCOMPARE(copies().list().size(), size_t(1));
         Connection copy;

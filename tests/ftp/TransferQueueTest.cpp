@@ -238,6 +238,8 @@ private Q_SLOTS:
         certificate.fingerprint = u"AA:BB"_s;
         QVERIFY(FtpCertificates::keep(store, certificate));
         QVERIFY(FtpCertificates::check(store, certificate) == FtpCertificates::Known::Same);
+        certificate.fingerprint = u"AA:CC"_s;
+        QVERIFY(FtpCertificates::check(store, certificate) == FtpCertificates::Known::Changed);
         certificate.port = 2121; // another server of the host
         QVERIFY(FtpCertificates::check(store, certificate) == FtpCertificates::Known::Unknown);
     }
