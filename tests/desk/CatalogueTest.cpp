@@ -36,8 +36,7 @@ class CatalogueTest : public QObject {
 private Q_SLOTS:
     void firstOpeningShowsTheDefaultsAndClosingDropsWhatWasTyped()
     {
-        Desk desk;
-        desk.openSample();
+        SampleDesk desk;
         frmCatalogue window(desk.session, nullptr);
         QCOMPARE(control<QComboBox>(window, "cbLangue").currentText(), u"Français"_s);
         QCOMPARE(control<QLineEdit>(window, "txtTitre").text(), u"La Remise aux Tilleuls"_s);
@@ -59,8 +58,7 @@ private Q_SLOTS:
 
     void everySettingSurvivesARun()
     {
-        Desk desk;
-        desk.openSample();
+        SampleDesk desk;
         const auto typed = [](const QString &name) -> QString { return u"é"_s + name; };
         {
             frmCatalogue window(desk.session, nullptr);
@@ -103,8 +101,7 @@ private Q_SLOTS:
 
     void selectionDecidesThePages()
     {
-        Desk desk;
-        desk.openSample();
+        SampleDesk desk;
         frmCatalogue window(desk.session, nullptr);
         auto &grid = control<Spread>(window, "fpSpread2");
         control<QPushButton>(window, "cmdDeslectAll").click();
@@ -122,8 +119,7 @@ private Q_SLOTS:
 
     void openingEmptiesTheFolderAndARunDoesNot()
     {
-        Desk desk;
-        desk.openSample();
+        SampleDesk desk;
         const QString old = desk.path(u"data/temp/ancien.htm"_s);
         const QString picture = desk.path(u"data/temp/images/ancienne.jpg"_s);
         QDir().mkpath(desk.path(u"data/temp/images"_s));
@@ -139,8 +135,7 @@ private Q_SLOTS:
 
     void whatIsPassedOverIsListed()
     {
-        Desk desk;
-        desk.openSample();
+        SampleDesk desk;
         desk.session.localisation.gsLangue = u"EN"_s;
         const QString gone =
             ApplicationFolder::sample(desk.session.applicationFolder) + u"/pictures/n-existe-pas.jpg"_s;
@@ -158,8 +153,7 @@ private Q_SLOTS:
 
     void findingsLeadToTheirField()
     {
-        Desk desk;
-        desk.openSample();
+        SampleDesk desk;
         desk.sql(u"UPDATE T_PRODUIT SET sRef = '00001202501', sNomFR = 'Pot \"noir\" | grand' WHERE idProduit = 2"_s);
         desk.sql(u"UPDATE T_PRODUIT SET sPrixVenteTTC = NULL, sNomFR = ' ' WHERE idProduit = 3"_s);
         desk.sql(u"UPDATE T_PRODUIT SET sFamille = 'L''atelier' WHERE idFamille = 12"_s);
@@ -216,8 +210,7 @@ private Q_SLOTS:
 
     void logoIsPickedAndCopied()
     {
-        Desk desk;
-        desk.openSample();
+        SampleDesk desk;
         const QString folder = desk.path(u"photos"_s);
         QDir().mkpath(folder);
         QVERIFY(QFile::copy(desk.path(u"data/img/shopcart.gif"_s), folder + u"/enseigne.gif"_s));
@@ -262,8 +255,7 @@ private Q_SLOTS:
 
     void settingsThatBreakPagesAreFound()
     {
-        Desk desk;
-        desk.openSample();
+        SampleDesk desk;
         desk.sql(u"UPDATE REF_INFO SET sValeur = 'a\nb Ω' WHERE idInfo = 2"_s);
         (void)AfficherInfo(desk.session);
         Files::write(desk.path(u"data/NL.cda"_s), "no sign\n");

@@ -87,6 +87,11 @@ public:
     DeskScreens screens;
 };
 
+/// Opened on the sample shop.
+struct SampleDesk : Desk {
+    SampleDesk() { openSample(); }
+};
+
 /// The control of that name; the test stops where there is none.
 template <typename Control>
 Control &control(QWidget &window, const char *name)

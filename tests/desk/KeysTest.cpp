@@ -13,8 +13,7 @@ class KeysTest : public QObject {
 private Q_SLOTS:
     void tabLeavesTheLastCell()
     {
-        Desk desk;
-        desk.openSample();
+        SampleDesk desk;
         frmInfo window(desk.session, nullptr);
         window.show();
         QApplication::setActiveWindow(&window);
@@ -28,8 +27,7 @@ private Q_SLOTS:
 
     void enterDoesNotGenerate()
     {
-        Desk desk;
-        desk.openSample();
+        SampleDesk desk;
         frmCatalogue window(desk.session, nullptr);
         window.show();
         for (const char *name : {"txtTitre", "lstControle", "fpSpread2"})
@@ -39,8 +37,7 @@ private Q_SLOTS:
 
     void translationsOfTheWindowAtHand()
     {
-        Desk desk;
-        desk.openSample();
+        SampleDesk desk;
         frmMain window(desk.session);
         window.show();
         desk.screens.showProducts(&control<QMdiArea>(window, "mdi"));

@@ -26,8 +26,7 @@ private Q_SLOTS:
             {"quote is no statement", QString(), u"' OR '1'='1"_s, u"x"_s, false, refused, QString()}};
         for (const auto &[row, adminPassword, user, password, accepted, box, alert] : rows) {
             const Row named(row);
-            Desk desk;
-            desk.openSample();
+            SampleDesk desk;
             desk.sql(u"INSERT INTO REF_USER (Num_user, Login, sDroits) VALUES (2, 'libre', '')"_s);
             desk.session.gCnn = Connection();
             if (!adminPassword.isEmpty())
@@ -62,8 +61,7 @@ private Q_SLOTS:
 
     void loginStaysOpenOverABrokenStore()
     {
-        Desk desk;
-        desk.openSample();
+        SampleDesk desk;
         desk.session.gCnn = Connection();
         const QString good = desk.session.gsDbPath;
         desk.session.gsDbPath = desk.path(u"nowhere/zelvantor.mdb"_s);
@@ -88,8 +86,7 @@ private Q_SLOTS:
 
     void administratorPasswordChanges()
     {
-        Desk desk;
-        desk.openSample();
+        SampleDesk desk;
         frmPW window(desk.session, nullptr);
         const auto change = [&](const QString &old, const QString &next, const QString &again) {
             control<QLineEdit>(window, "txtPWA").setText(old);
@@ -120,8 +117,7 @@ private Q_SLOTS:
 
     void damagedPasswordOpensNothing()
     {
-        Desk desk;
-        desk.openSample();
+        SampleDesk desk;
         QVERIFY(AdminPassword::write(desk.settings, u"secret"_s));
         QString stored = desk.settings.value(u"BRAXOSOFT"_s, u"ZELVANTOR"_s, u"mk"_s);
         stored[stored.size() / 2] = stored[stored.size() / 2] == u'A' ? u'B' : u'A';

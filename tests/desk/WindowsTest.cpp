@@ -59,8 +59,7 @@ private Q_SLOTS:
 
     void languageChangeTurnsTheMainWindow()
     {
-        Desk desk;
-        desk.openSample();
+        SampleDesk desk;
         frmMain window(desk.session);
         auto &bar = control<ButtonBar>(window, "ButtonBar1");
         QCOMPARE(bar.headerCaption(2), u"CONFIGURATION"_s);
@@ -82,8 +81,7 @@ private Q_SLOTS:
 
     void missingKeysLeaveFrenchButEmptyTheCaption()
     {
-        Desk desk;
-        desk.openSample();
+        SampleDesk desk;
         Files::write(desk.path(u"data/IT.cda"_s), "[PARAM]\n2=\n3=   \nfpSpread3_2=Valore\n");
         desk.session.localisation.gsLangue = u"IT"_s;
         frmInfo window(desk.session, nullptr);
@@ -96,8 +94,7 @@ private Q_SLOTS:
 
     void mainWindowSaysWhatIsMissing()
     {
-        Desk desk;
-        desk.openSample();
+        SampleDesk desk;
         desk.sql(u"UPDATE REF_INFO SET sValeur = NULL WHERE idInfo = 2"_s);
         desk.sql(u"DROP TABLE REF_REMARQUE"_s);
         frmMain window(desk.session);
@@ -119,8 +116,7 @@ private Q_SLOTS:
 
     void companyDataIsRewrittenWhole()
     {
-        Desk desk;
-        desk.openSample();
+        SampleDesk desk;
         {
             frmInfo window(desk.session, nullptr);
             auto &grid = control<Spread>(window, "fpSpread3");
@@ -142,8 +138,7 @@ private Q_SLOTS:
 
     void failedSaveLosesNoRow()
     {
-        Desk desk;
-        desk.openSample();
+        SampleDesk desk;
         frmInfo window(desk.session, nullptr);
         window.show();
         auto &grid = control<Spread>(window, "fpSpread3");
@@ -171,8 +166,7 @@ private Q_SLOTS:
 
     void translationShowsAtOnceAndKeepsTheFile()
     {
-        Desk desk;
-        desk.openSample();
+        SampleDesk desk;
         const QString path = desk.path(u"data/FR.cda"_s);
         Files::write(path, "; garder\n" + Files::read(path));
         frmInfo window(desk.session, nullptr);
@@ -196,8 +190,7 @@ private Q_SLOTS:
 
     void damagedLanguageFileIsLeftAlone()
     {
-        Desk desk;
-        desk.openSample();
+        SampleDesk desk;
         const QByteArray rubbish("[PARAM]\n2=OK\n\x01\x02=\x03\n");
         Files::write(desk.path(u"data/FR.cda"_s), rubbish);
         frmTrad window(desk.session, u"PARAM"_s, u"x"_s, nullptr);
@@ -227,8 +220,7 @@ private Q_SLOTS:
     void colourOfTheDesktopIsFollowed()
     {
         const QPalette light = QApplication::palette();
-        Desk desk;
-        desk.openSample();
+        SampleDesk desk;
         frmMain window(desk.session);
         window.show();
         const auto isLight = [](const QColor &colour) { return colour.lightness() > 128; };
@@ -305,8 +297,7 @@ private Q_SLOTS:
 
     void longTextsFitInTheirPlace()
     {
-        Desk desk;
-        desk.openSample();
+        SampleDesk desk;
         desk.session.localisation.gsLangue = u"DE"_s;
         desk.session.giModeProduit = 2;
         desk.session.glIdProduit = 1;

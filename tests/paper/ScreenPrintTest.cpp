@@ -38,8 +38,7 @@ private Q_SLOTS:
     {
         qputenv("CUPS_SERVER", "127.0.0.1:1"); // no printer answers there, whatever the machine has
         QVERIFY(QPrinterInfo::defaultPrinter().isNull());
-        Desk desk;
-        desk.openSample();
+        SampleDesk desk;
         desk.files.path = desk.path(u"screen.pdf"_s);
         frmMain window(desk.session);
         window.show();
