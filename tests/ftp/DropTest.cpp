@@ -87,19 +87,28 @@ private Q_SLOTS:
         QVERIFY(desk.server->files.contains(u"/panier.txt"_s) && !desk.server->files.contains(u"/www/panier.txt"_s));
     }
 
-    void enterNeverTransfers()
+    void enterAndTheRightButtonTransferNothing()
     {
         FtpDeskTest desk;
         desk.openConnected();
+        auto &local = desk.local();
         desk.server->log.clear();
-        for (FtpPane *pane : {&desk.local(), &desk.remote()}) {
+        for (FtpPane *pane : {&local, &desk.remote()}) {
             select(*pane, {u"index.htm"_s});
             QTest::keyClick(pane, Qt::Key_Return);
         }
+        const QPoint place = placeOf(local, 1);
+        QContextMenuEvent asked(QContextMenuEvent::Mouse, place, local.viewport()->mapToGlobal(place));
+        QApplication::sendEvent(local.viewport(), &asked);
+        QVERIFY(!QApplication::activePopupWidget());
+        QTest::mouseClick(local.viewport(), Qt::RightButton, {}, place);
+        auto &actions = control<QMenu>(*desk.window, "mnuActions");
+        QTRY_VERIFY(actions.isVisible());
+        actions.close();
         QCOMPARE(desk.server->log, QStringList());
-        select(desk.local(), {u"images"_s});
-        QTest::keyClick(&desk.local(), Qt::Key_Return);
-        QCOMPARE(names(desk.local()), (QStringList{QString(), u"a.gif"_s}));
+        select(local, {u"images"_s});
+        QTest::keyClick(&local, Qt::Key_Return);
+        QCOMPARE(names(local), (QStringList{QString(), u"a.gif"_s}));
     }
 
     void allIsSent()
@@ -123,21 +132,6 @@ private Q_SLOTS:
         local.setCurrentItem(local.topLevelItem(2));
         QTest::keyClick(&local, Qt::Key_A, Qt::ControlModifier);
         QCOMPARE(local.currentRow(), 2);
-    }
-
-    void rightButtonShowsTheActions()
-    {
-        FtpDeskTest desk;
-        desk.open();
-        auto &local = desk.local();
-        const QPoint place = placeOf(local, 1);
-        QContextMenuEvent asked(QContextMenuEvent::Mouse, place, local.viewport()->mapToGlobal(place));
-        QApplication::sendEvent(local.viewport(), &asked);
-        QVERIFY(!QApplication::activePopupWidget());
-        QTest::mouseClick(local.viewport(), Qt::RightButton, {}, place);
-        auto &actions = control<QMenu>(*desk.window, "mnuActions");
-        QTRY_VERIFY(actions.isVisible());
-        actions.close();
     }
 };
 
