@@ -154,7 +154,7 @@ private Q_SLOTS:
         desk.messages.answer = true;
         press(again, "cmdSupprimer6");
         press(again, "cmdFermer");
-        QCOMPARE(desk.value(u"SELECT count(*) FROM REF_LISTE WHERE idRef_parent = 20"_s), u"1"_s);
+        QCOMPARE(desk.value(u"SELECT group_concat(sLibelle) FROM REF_LISTE"_s), u"Racine,Couleurs,Bleu nuit"_s);
     }
 
     void attributesCarryAList()
