@@ -37,7 +37,7 @@ QByteArrayList corpus(const char *name)
 
 } // namespace
 
-Q_DECLARE_METATYPE(Fuzzed)
+Q_DECLARE_METATYPE(Fuzzed) // a column of the texts
 
 /// Files that are damaged in a thousand ways, and texts from outside that nobody would write: no crash, no hang, and
 /// a cause where something is refused.
