@@ -1,11 +1,10 @@
 #pragma once
 #include "platform/FtpSession.h"
 
-/// What every session without a real server has in common: it is never busy, and login and logout only change its
-/// state.
+/// What sessions without a real server have in common: they are never busy, and a logout only changes their state.
 class QuietSession : public FtpSession {
 public:
-    int State() const override { return state; }
+    int State() const override { return m_state; }
     bool Busy() const override { return false; }
     Result RestartSupported(bool &supported) override
     {
@@ -23,11 +22,11 @@ public:
 protected:
     void setState(int value)
     {
-        state = value;
+        m_state = value;
         if (onState)
             onState(value);
     }
 
 private:
-    int state = Closed;
+    int m_state = Closed;
 };
