@@ -1,21 +1,14 @@
 #pragma once
-#include "platform/FtpSession.h"
+#include "docs/pictures/QuietSession.h"
 
 #include <QFileInfo>
 #include <QMap>
 
 /// A server with one folder, for the pictures of an open connection.
-class WebSpace : public FtpSession {
+class WebSpace : public QuietSession {
 public:
-    int State() const override { return m_state; }
-    bool Busy() const override { return false; }
     QString CurrentDirectory() const override { return QStringLiteral("/www"); }
     Result setCurrentDirectory(const QString &) override { return {}; }
-    Result RestartSupported(bool &supported) override
-    {
-        supported = true;
-        return {};
-    }
     Result Login(const QString &, const QString &user, const QString &, const QString &, int) override
     {
         tell(QStringLiteral("220 FTP\r\nAUTH TLS\r\n234 AUTH TLS\r\nUSER ") + user
@@ -23,13 +16,6 @@ public:
         setState(Connected);
         return {};
     }
-    Result Logout() override
-    {
-        setState(Closed);
-        return {};
-    }
-    void Close() override { setState(Closed); }
-    void Abort() override {}
     Result Cdup() override { return {}; }
     Result List(QString &text, const QString &) override
     {
@@ -61,14 +47,7 @@ private:
         if (onProgress)
             onProgress({FtpOperation::Other, FtpProgress::Done, reply, 0});
     }
-    void setState(int state)
-    {
-        m_state = state;
-        if (onState)
-            onState(state);
-    }
 
-    int m_state = Closed;
     QMap<QString, qint64> m_files{{QStringLiteral("checkout.htm"), 11020},
                                   {QStringLiteral("index.htm"), 4711},
                                   {QStringLiteral("store.css"), 15596}};

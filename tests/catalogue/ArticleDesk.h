@@ -3,9 +3,8 @@
 #include "tests/desk/Desk.h"
 
 /// A product screen over the sample shop.
-class ArticleDesk : public Desk {
+class ArticleDesk : public SampleDesk {
 public:
-    ArticleDesk() { openSample(); }
     std::unique_ptr<frmArticle> open(int mode, int idProduit = 0)
     {
         session.giModeProduit = mode;

@@ -2,7 +2,6 @@
 #include "tests/support/Suite.h"
 
 #include <QFile>
-#include <QTest>
 
 #include <fcntl.h>
 #include <stdlib.h>
@@ -45,61 +44,52 @@ private:
 class BarcodeReaderTest : public QObject {
     Q_OBJECT
 private Q_SLOTS:
-    void codesAreTold_data();
-    void codesAreTold();
-    void missingPortIsPassedOver();
-    void readerMayBePulledOut();
-};
-
-void BarcodeReaderTest::codesAreTold_data()
-{
-    QTest::addColumn<QByteArray>("sent");
-    QTest::addColumn<QStringList>("codes");
-    QTest::newRow("ends") << QByteArray("1004202026034\r\n4006381333931\n12\r")
-                          << QStringList{u"1004202026034"_s, u"4006381333931"_s, u"12"_s};
-    QTest::newRow("blanks and frames") << QByteArray("\r\n \n\x02  A 12 \x03\r\n") << QStringList{u"A 12"_s};
-    QTest::newRow("no end") << QByteArray("4006381333931") << QStringList{u"4006381333931"_s};
-    QTest::newRow("longest") << QByteArray(QByteArray(BarcodeReader::longestCode, '7') + '\n')
-                             << QStringList{QString(BarcodeReader::longestCode, u'7')};
-    QTest::newRow("noise") << QByteArray(QByteArray(1000, 'x') + "\n42\n") << QStringList{u"42"_s};
-}
-
-void BarcodeReaderTest::codesAreTold()
-{
-    QFETCH(QByteArray, sent);
-    QFETCH(QStringList, codes);
-    Wire wire;
-    BarcodeReader reader;
-    QStringList told;
-    connect(&reader, &BarcodeReader::codeRead, this, [&told](const QString &code) { told << code; });
-    QVERIFY(reader.open(wire.port()));
-    wire.send(sent);
-    QTRY_COMPARE(told, codes);
-}
-
-void BarcodeReaderTest::missingPortIsPassedOver()
-{
-    BarcodeReader reader;
-    for (const QString &port : {u""_s, u" "_s, u"ttyGone7"_s, u"/dev/null"_s, u"/tmp"_s}) {
-        QVERIFY2(!reader.open(port), qPrintable(port));
-        QVERIFY(!reader.isOpen());
+    void codesAreTold()
+    {
+        const Rows<QByteArray, QStringList> rows = {
+            {"ends", QByteArray("1004202026034\r\n4006381333931\n12\r"),
+             QStringList{u"1004202026034"_s, u"4006381333931"_s, u"12"_s}},
+            {"blanks and frames", QByteArray("\r\n \n\x02  A 12 \x03\r\n"), QStringList{u"A 12"_s}},
+            {"no end", QByteArray("4006381333931"), QStringList{u"4006381333931"_s}},
+            {"longest", QByteArray(QByteArray(BarcodeReader::longestCode, '7') + '\n'),
+             QStringList{QString(BarcodeReader::longestCode, u'7')}},
+            {"noise", QByteArray(QByteArray(1000, 'x') + "\n42\n"), QStringList{u"42"_s}}};
+        for (const auto &[row, sent, codes] : rows) {
+            const Row named(row);
+            Wire wire;
+            BarcodeReader reader;
+            QStringList told;
+            connect(&reader, &BarcodeReader::codeRead, this, [&told](const QString &code) { told << code; });
+            QVERIFY(reader.open(wire.port()));
+            wire.send(sent);
+            QTRY_COMPARE(told, codes);
+        }
     }
-}
 
-void BarcodeReaderTest::readerMayBePulledOut()
-{
-    BarcodeReader reader;
-    QStringList told;
-    connect(&reader, &BarcodeReader::codeRead, this, [&told](const QString &code) { told << code; });
-    Wire first;
-    QVERIFY(reader.open(first.port()));
-    first.pull();
-    QTRY_VERIFY(!reader.isOpen());
-    Wire second;
-    QVERIFY(reader.open(second.port()));
-    second.send("12\n");
-    QTRY_COMPARE(told, QStringList{u"12"_s});
-}
+    void missingPortIsPassedOver()
+    {
+        BarcodeReader reader;
+        for (const QString &port : {u""_s, u" "_s, u"ttyGone7"_s, u"/dev/null"_s, u"/tmp"_s}) {
+            QVERIFY2(!reader.open(port), qPrintable(port));
+            QVERIFY(!reader.isOpen());
+        }
+    }
+
+    void readerMayBePulledOut()
+    {
+        BarcodeReader reader;
+        QStringList told;
+        connect(&reader, &BarcodeReader::codeRead, this, [&told](const QString &code) { told << code; });
+        Wire first;
+        QVERIFY(reader.open(first.port()));
+        first.pull();
+        QTRY_VERIFY(!reader.isOpen());
+        Wire second;
+        QVERIFY(reader.open(second.port()));
+        second.send("12\n");
+        QTRY_COMPARE(told, QStringList{u"12"_s});
+    }
+};
 
 ZELVANTOR_SUITE(BarcodeReaderTest)
 #include "BarcodeReaderTest.moc"

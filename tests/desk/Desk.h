@@ -4,9 +4,18 @@
 #include "platform/FileChooser.h"
 #include "shell/ApplicationFolder.h"
 #include "tests/support/RecordingMessages.h"
+#include "tests/support/Suite.h"
 
-#include <QTemporaryDir>
-#include <QWidget>
+#include <QAction>
+#include <QCheckBox>
+#include <QComboBox>
+#include <QLabel>
+#include <QLineEdit>
+#include <QListWidget>
+#include <QPlainTextEdit>
+#include <QPushButton>
+#include <QTabWidget>
+#include <QToolButton>
 
 #include <functional>
 #include <vector>
@@ -76,6 +85,11 @@ public:
     FixedFile files;
     Session session;
     DeskScreens screens;
+};
+
+/// Opened on the sample shop.
+struct SampleDesk : Desk {
+    SampleDesk() { openSample(); }
 };
 
 /// The control of that name; the test stops where there is none.

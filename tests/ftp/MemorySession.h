@@ -1,21 +1,18 @@
 #pragma once
-#include "platform/FtpSession.h"
+#include "docs/pictures/QuietSession.h"
 #include "tests/support/Files.h"
 
 #include <QDir>
 #include <QMap>
 
 /// A server in memory: folders are names that end in "/".
-class MemorySession : public FtpSession {
+class MemorySession : public QuietSession {
 public:
     QMap<QString, QByteArray> files; ///< by full path
     QStringList log;
-    int state = Closed;
     QString directory = QStringLiteral("/");
     Result refusal; ///< of the next login
 
-    int State() const override { return state; }
-    bool Busy() const override { return false; }
     QString CurrentDirectory() const override { return directory; }
     Result setCurrentDirectory(const QString &path) override
     {
@@ -23,11 +20,6 @@ public:
         if (wanted != QStringLiteral("/") && wanted != QStringLiteral("//") && !files.contains(wanted))
             return {550, QStringLiteral("550 no such folder")};
         directory = whole(path);
-        return {};
-    }
-    Result RestartSupported(bool &supported) override
-    {
-        supported = true;
         return {};
     }
     Result Login(const QString &host, const QString &user, const QString &, const QString &, int port) override
@@ -38,13 +30,6 @@ public:
         setState(Connected);
         return {};
     }
-    Result Logout() override
-    {
-        setState(Closed);
-        return {};
-    }
-    void Close() override { setState(Closed); }
-    void Abort() override {}
     Result Cdup() override
     {
         const QString above = directory.section(u'/', 0, -2);
@@ -102,11 +87,5 @@ private:
     Result take(const QString &path)
     {
         return files.remove(path) > 0 ? Result() : Result(550, QStringLiteral("550 none"));
-    }
-    void setState(int value)
-    {
-        state = value;
-        if (onState)
-            onState(value);
     }
 };

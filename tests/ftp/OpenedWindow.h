@@ -3,13 +3,6 @@
 #include "ftp/frmFTP.h"
 #include "tests/desk/Desk.h"
 #include "tests/ftp/MemorySession.h"
-#include "tests/support/Files.h"
-
-#include <QAction>
-#include <QDir>
-#include <QLineEdit>
-#include <QPushButton>
-#include <QTest>
 
 /// The FTP window over a small shop and a server in memory.
 class FtpDeskTest : public Desk {
@@ -22,20 +15,19 @@ public:
         Files::write(path(QStringLiteral("data/temp/panier.txt")), "0123456789");
         Files::write(path(QStringLiteral("data/temp/images/a.gif")), "gif");
     }
-    std::unique_ptr<frmFTP> open()
+    void open()
     {
-        auto server = std::make_unique<MemorySession>();
-        session0 = server.get();
+        auto memory = std::make_unique<MemorySession>();
+        server = memory.get();
         server->files = {{QStringLiteral("/www/"), {}},
                          {QStringLiteral("/www/old.txt"), "old"},
                          {QStringLiteral("/index.htm"), "1234567"}};
-        auto window = std::make_unique<frmFTP>(session, nullptr, std::move(server));
+        window = std::make_unique<frmFTP>(session, nullptr, std::move(memory));
         window->show();
         if (!QTest::qWaitForWindowActive(window.get()))
             qFatal("the window can't be active");
-        return window;
     }
-    void connectTo(QWidget &window)
+    void connect()
     {
         Visitor visitor;
         visitor.whenShown(QStringLiteral("frmConnect"), [](QWidget &dialog) {
@@ -44,18 +36,25 @@ public:
             control<QLineEdit>(dialog, "txtPassword").setText(QStringLiteral("secret-word"));
             control<QPushButton>(dialog, "cmdOK").click();
         });
-        control<QAction>(window, "connect").trigger();
+        trigger("connect");
         QCOMPARE(visitor.waiting(), QStringList());
-        window.activateWindow();
-        QVERIFY(QTest::qWaitForWindowActive(&window));
+        window->activateWindow();
+        QVERIFY(QTest::qWaitForWindowActive(window.get()));
     }
-    MemorySession *session0 = nullptr;
-};
+    void openConnected()
+    {
+        open();
+        connect();
+    }
+    FtpPane &local() const { return control<FtpPane>(*window, "lvwLocal"); }
+    FtpPane &remote() const { return control<FtpPane>(*window, "lvwRemote"); }
+    void trigger(const char *action) const { control<QAction>(*window, action).trigger(); }
+    bool offers(const char *action) const { return control<QAction>(*window, action).isEnabled(); }
+    void send() const { control<QToolButton>(*window, "cmdAjouter").click(); }
 
-inline FtpPane &pane(QWidget &window, const char *name)
-{
-    return control<FtpPane>(window, name);
-}
+    MemorySession *server = nullptr;
+    std::unique_ptr<frmFTP> window;
+};
 
 inline QStringList names(QTreeWidget &list)
 {

@@ -3,20 +3,7 @@
 #include "tests/support/Suite.h"
 #include "tests/support/TestShop.h"
 
-#include <QTest>
-
 using namespace Qt::StringLiterals;
-
-class FixedPagesTest : public QObject {
-    Q_OBJECT
-private Q_SLOTS:
-    void welcomeLines_data();
-    void welcomeLines();
-    void homePage();
-    void searchPage();
-    void addressBlock();
-    void legalPages();
-};
 
 namespace {
 
@@ -27,95 +14,72 @@ QString content(const QString &page, const QString &from, const QString &to)
 
 } // namespace
 
-void FixedPagesTest::welcomeLines_data()
-{
-    QTest::addColumn<QString>("message");
-    QTest::addColumn<QString>("shown");
-    QTest::newRow("three lines") << u"un\r\ndeux\r\ntrois"_s << u"un\r<br>deux\r<br>trois"_s;
-    QTest::newRow("lone line feeds") << u"un\n\ndeux"_s << u"un<br><br>deux"_s;
-    QTest::newRow("quotes go") << u"l'été <a href=\"x\">\"là\"</a>"_s << u"lété <a href=x>là</a>"_s;
-    QTest::newRow("later placeholders") << u"[titre] [SHIP] [bienvenue]"_s << u"Boutique [SHIP] T60"_s;
-    QTest::newRow("nothing") << u""_s << u""_s;
-}
-
-void FixedPagesTest::welcomeLines()
-{
-    QFETCH(QString, message);
-    ShopData data = TestShop().data;
-    data.settings.txtmessage = message;
-    const Page page = GenererHome(data).front();
-    QTEST(content(page.text, u"<td>"_s, u"</td>\r\n</tr>\r\n</table>\r\n</main>"_s), "shown");
-}
-
-void FixedPagesTest::homePage()
-{
-    ShopData data = TestShop().data;
-    data.settings.txtDest = u"a@b.example"_s;
-    data.settings.chGratuit = true;
-    data.settings.lbTemp = u"30"_s;
-    const std::vector<Page> pages = GenererHome(data);
-    QCOMPARE(pages.size(), size_t(2));
-    const QString home = pages[0].text;
-    QCOMPARE(pages[0].fileName, u"index.htm"_s);
-    QVERIFY(pages[0].indexed && !pages[1].indexed);
-    QVERIFY(home.contains(u"<META NAME=\"email\" CONTENT=\"a@b.example\">"_s));
-    QVERIFY(home.contains(u">T60<"_s) && home.contains(u"images/topbkg30.gif"_s));
-    // Whatever the shipping methods are, each visit puts the amount back to 24.
-    QVERIFY(home.contains(u"DeleteCookie(\"cdship\", \"/\");"_s));
-    QVERIFY(home.contains(u"SetCookie (\"cdship\", 24, null, \"/\");"_s));
-    QVERIFY(!home.contains(u"[SHIP]"_s) && !home.contains(u"[generated]"_s));
-}
-
-void FixedPagesTest::searchPage()
-{
-    ShopData data = TestShop().data;
-    const std::vector<Page> pages = GenererHome(data);
-    const QString search = pages.back().text;
-    QCOMPARE(pages.back().fileName, u"searchfunc.html"_s);
-    QVERIFY(search.contains(u"searchdb.js"_s) && search.contains(u"images/spacer.gif"_s));
-    QVERIFY(!search.contains(u"[generated]"_s) && !search.contains(u"logo.gif"_s));
-    QVERIFY(pages.front().text.contains(u"<form name=form_search action=\"JavaScript:OnSearchSubmit()\">"_s));
-    data.settings.chSearch = false;
-    const std::vector<Page> without = GenererHome(data);
-    QCOMPARE(without.size(), size_t(1));
-    QVERIFY(without[0].text.contains(u"<td width=\"50%\">\r\n<p align=\"right\">&nbsp;</td>"_s));
-    QVERIFY(!without[0].text.contains(u"action=\"JavaScript"_s));
-}
-
-void FixedPagesTest::addressBlock()
-{
-    ShopData data = TestShop().data;
-    data.gInfo[0] = u"L'\"Atelier\""_s;
-    data.gInfo[2] = u" "_s;
-    const Page contact = GenererContact(data).front();
-    QCOMPARE(contact.fileName, u"contact.htm"_s);
-    QVERIFY(contact.text.contains(u">Tm3<"_s));
-    QVERIFY(contact.text.contains(u"T63: \r\nLAtelier<br>\r\n<br>P2\r\n<br> \r\n<br>P4 - P5\r\n<br>\r\n<br>P7\r\n"
-                                  "<br>Fax: P8\r\n<br>Email: P9\r\n<br>P8\n\n"_s));
-    data.gInfo.clear();
-    QVERIFY(GenererContact(data).front().text.contains(u"<br> - \r\n"_s));
-}
-
-void FixedPagesTest::legalPages()
-{
-    ShopData data = TestShop().data;
-    data.settings.chTerme = data.settings.chExpedition = data.settings.chPrivacy = false;
-    data.settings.txtModalite = u"l'un\r\n<a href=\"x\">deux</a>"_s;
-    data.settings.txtExpedition = u"[contact] [titre]"_s;
-    data.settings.txtDescription = u"[tcontact]"_s;
-    const std::vector<Page> pages = GenererContact(data);
-    QStringList seen;
-    for (const Page &page : pages) {
-        seen << page.fileName + u'|' + content(page.text, u"<h1>"_s, u"</h1>"_s) + u'|'
-                    + content(page.text, u"<div class=\"content\">\r\n"_s, u"\r\n</div>"_s);
-        QVERIFY(page.indexed);
-        QVERIFY(page.text.contains(
-            u"<META NAME=\"description\" CONTENT=\"%1\">"_s.arg(content(page.text, u"<h1>"_s, u"</h1>"_s))));
+class FixedPagesTest : public QObject {
+    Q_OBJECT
+private Q_SLOTS:
+    void welcomeLines()
+    {
+        const Rows<QString, QString> rows = {
+            {"three lines", u"un\r\ndeux\r\ntrois"_s, u"un\r<br>deux\r<br>trois"_s},
+            {"lone line feeds", u"un\n\ndeux"_s, u"un<br><br>deux"_s},
+            {"quotes go", u"l'été <a href=\"x\">\"là\"</a>"_s, u"lété <a href=x>là</a>"_s},
+            {"later placeholders", u"[titre] [SHIP] [bienvenue]"_s, u"Boutique [SHIP] T60"_s},
+            {"nothing", u""_s, u""_s}};
+        for (const auto &[row, message, shown] : rows) {
+            const Row named(row);
+            ShopData data = TestShop().data;
+            data.settings.txtmessage = message;
+            const Page page = GenererHome(data).front();
+            QCOMPARE(content(page.text, u"<td>"_s, u"</td>\r\n</tr>\r\n</table>\r\n</main>"_s), shown);
+        }
     }
-    seen.removeFirst();
-    QCOMPARE(seen, QStringList({u"terme.htm|Tm6|lun\r\n<a href=x>deux</a>"_s, u"expedition.htm|Tm7|[contact] [titre]"_s,
-                                u"privacy.htm|Tm8|"_s}));
-}
+
+    void searchPage()
+    {
+        ShopData data = TestShop().data;
+        QVERIFY(!GenererHome(data).back().text.contains(u"[generated]"_s));
+        data.settings.chSearch = false;
+        const std::vector<Page> without = GenererHome(data);
+        QCOMPARE(without.size(), size_t(1));
+        QVERIFY(without[0].text.contains(u"<td width=\"50%\">\r\n<p align=\"right\">&nbsp;</td>"_s));
+        QVERIFY(!without[0].text.contains(u"action=\"JavaScript"_s));
+    }
+
+    void addressBlock()
+    {
+        ShopData data = TestShop().data;
+        data.gInfo[0] = u"L'\"Atelier\""_s;
+        data.gInfo[2] = u" "_s;
+        const Page contact = GenererContact(data).front();
+        QCOMPARE(contact.fileName, u"contact.htm"_s);
+        QVERIFY(contact.text.contains(u">Tm3<"_s));
+        QVERIFY(contact.text.contains(u"T63: \r\nLAtelier<br>\r\n<br>P2\r\n<br> \r\n<br>P4 - P5\r\n<br>\r\n<br>P7\r\n"
+                                      "<br>Fax: P8\r\n<br>Email: P9\r\n<br>P8\n\n"_s));
+        data.gInfo.clear();
+        QVERIFY(GenererContact(data).front().text.contains(u"<br> - \r\n"_s));
+    }
+
+    void legalPages()
+    {
+        ShopData data = TestShop().data;
+        data.settings.chTerme = data.settings.chExpedition = data.settings.chPrivacy = false;
+        data.settings.txtModalite = u"l'un\r\n<a href=\"x\">deux</a>"_s;
+        data.settings.txtExpedition = u"[contact] [titre]"_s;
+        data.settings.txtDescription = u"[tcontact]"_s;
+        const std::vector<Page> pages = GenererContact(data);
+        QStringList seen;
+        for (const Page &page : pages) {
+            seen << page.fileName + u'|' + content(page.text, u"<h1>"_s, u"</h1>"_s) + u'|'
+                        + content(page.text, u"<div class=\"content\">\r\n"_s, u"\r\n</div>"_s);
+            QVERIFY(page.indexed);
+            QVERIFY(page.text.contains(
+                u"<META NAME=\"description\" CONTENT=\"%1\">"_s.arg(content(page.text, u"<h1>"_s, u"</h1>"_s))));
+        }
+        seen.removeFirst();
+        QCOMPARE(seen, QStringList({u"terme.htm|Tm6|lun\r\n<a href=x>deux</a>"_s,
+                                    u"expedition.htm|Tm7|[contact] [titre]"_s, u"privacy.htm|Tm8|"_s}));
+    }
+};
 
 ZELVANTOR_SUITE(FixedPagesTest)
 #include "FixedPagesTest.moc"
