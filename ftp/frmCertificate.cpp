@@ -19,7 +19,8 @@ frmCertificate::frmCertificate(Session &screenSession, const FtpCertificate &cer
     m_ui->txtEmetteur->setText(certificate.issuer);
     m_ui->txtDates->setText(certificate.from.toString(day) + u" - "_s + certificate.until.toString(day));
     m_ui->txtEmpreinte->setPlainText(certificate.fingerprint);
-    m_ui->txtRaison->setText(certificate.reason);
+    m_ui->txtRaison->setText(session().localisation.textOr(
+        u"CERTIF"_s, u'r' + QString::number(certificate.reasonNumber), certificate.reason));
     connect(m_ui->cmdSession, &QPushButton::clicked, this, &frmCertificate::accept);
     connect(m_ui->cmdToujours, &QPushButton::clicked, this, [this] {
         m_forGood = true;

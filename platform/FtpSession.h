@@ -29,8 +29,9 @@ struct FtpCertificate {
     QString issuer;
     QDateTime from;
     QDateTime until;
-    QString fingerprint; ///< SHA-256, pairs of hexadecimal digits with colons between
-    QString reason;      ///< why it can't be verified
+    QString fingerprint;  ///< SHA-256, pairs of hexadecimal digits with colons between
+    int reasonNumber = 0; ///< why it can't be verified, as OpenSSL numbers it
+    QString reason;       ///< the same in OpenSSL's words
 };
 
 /// How a session protects itself.

@@ -61,6 +61,7 @@ struct FtpVerifierCall {
             return 1;
         const int error = trusted ? X509_V_ERR_HOSTNAME_MISMATCH : X509_STORE_CTX_get_error(context);
         X509_STORE_CTX_set_error(context, error);
+        seen.reasonNumber = error;
         seen.reason = QString::fromUtf8(X509_verify_cert_error_string(error));
         seen.subject = nameText(X509_get_subject_name(certificate));
         seen.issuer = nameText(X509_get_issuer_name(certificate));

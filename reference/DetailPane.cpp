@@ -9,6 +9,7 @@
 
 #include <QComboBox>
 #include <QDialog>
+#include <QHeaderView>
 #include <QLineEdit>
 #include <QPushButton>
 
@@ -42,6 +43,7 @@ DetailPane::DetailPane(QDialog &screen, Session &session, const ReferenceSelecti
     m_grid->setText(List, 0, u"Liste"_s);
     m_grid->setOperationMode(Spread::OperationMode::SingleSelect);
     m_grid->setColumnWidths({120, m_list ? 280 : 440, 170});
+    m_grid->horizontalHeader()->setStretchLastSection(true);
     m_grid->hideColumns(m_list ? Id : List, IdList);
     if (m_list)
         RemplirCB();

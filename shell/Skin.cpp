@@ -31,7 +31,8 @@ public:
     void paint(QPainter *painter, const QRect &rect, QIcon::Mode mode, QIcon::State) override
     {
         const auto group = mode == QIcon::Disabled ? QPalette::Disabled : QPalette::Active;
-        const QString colour = QApplication::palette().color(group, QPalette::WindowText).name();
+        const auto role = mode == QIcon::Selected ? QPalette::HighlightedText : QPalette::WindowText;
+        const QString colour = QApplication::palette().color(group, role).name();
         QSvgRenderer(QByteArray(m_drawing).replace("currentColor", colour.toLatin1())).render(painter, rect);
     }
     QPixmap pixmap(const QSize &size, QIcon::Mode mode, QIcon::State state) override

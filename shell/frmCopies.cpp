@@ -6,6 +6,7 @@
 #include "ui_frmCopies.h"
 
 #include <QApplication>
+#include <QHeaderView>
 
 using namespace Qt::StringLiterals;
 
@@ -27,6 +28,7 @@ frmCopies::frmCopies(Session &screenSession, QWidget *parent)
     grid.setText(Day, 0, u"Date"_s);
     grid.setText(Time, 0, u"Heure"_s);
     grid.setText(Size, 0, u"Taille (Ko)"_s);
+    grid.horizontalHeader()->setStretchLastSection(true);
     connect(m_ui->cmdRestaurer, &QPushButton::clicked, this, &frmCopies::restoreChosen);
     connect(m_ui->cmdFermer, &QPushButton::clicked, this, &frmCopies::reject);
     connect(&grid, &Spread::rowSelected, this, [this](int row) { m_ui->cmdRestaurer->setEnabled(row > 0); });
@@ -45,7 +47,7 @@ void frmCopies::showCopies()
     for (int row = 1; row <= grid.MaxRows(); ++row) {
         const StoreCopy &copy = m_list[size_t(row - 1)];
         grid.setText(Day, row, copy.taken.date().toString(u"dd/MM/yyyy"_s));
-        grid.setText(Time, row, copy.isOfDay ? QString() : copy.taken.time().toString(u"HH:mm:ss"_s));
+        grid.setText(Time, row, copy.isOfDay ? u"–"_s : copy.taken.time().toString(u"HH:mm:ss"_s));
         grid.setText(Size, row, QString::number((copy.bytes + bytesOfKilobyte - 1) / bytesOfKilobyte));
     }
     if (!m_list.empty())

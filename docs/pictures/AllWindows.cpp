@@ -327,6 +327,7 @@ void showFtp(Session &session, const WindowLook &look)
     certificate.until = QDateTime(QDate(2027, 1, 1), QTime());
     certificate.fingerprint = u"5E:7C:0B:91:A4:33:D8:62:17:EE:40:5A:9C:28:B6:F1:"
                               "03:7D:E9:54:88:CA:1F:60:B3:92:4E:D7:05:6A:FC:21"_s;
+    certificate.reasonNumber = 18;
     certificate.reason = u"self-signed certificate"_s;
     frmCertificate question(session, certificate, false, nullptr);
     show(question, look, u"frmCertificate"_s);

@@ -176,9 +176,7 @@ private Q_SLOTS:
                 collect<QGroupBox>(window, place, cut);
                 collect<QTabBar>(window, place, cut);
                 collectHeaders(window, place, cut);
-                // Two German labels of the FTP login still share a key.
-                if (language != u"DE"_s || name != u"frmConnect"_s)
-                    collectSharedKeys(window, place, cut);
+                collectSharedKeys(window, place, cut);
                 // Inside the main window Tab stays in the window at hand.
                 if (language == u"FR"_s && name != u"frmMain-2"_s)
                     collectUnreached(window, place, cut);
