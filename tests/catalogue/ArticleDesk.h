@@ -1,5 +1,6 @@
 #pragma once
 #include "catalogue/frmArticle.h"
+#include "platform/NumberBox.h"
 #include "tests/desk/Desk.h"
 
 /// A product screen over the sample shop.
@@ -19,3 +20,18 @@ public:
                      + QString::number(idProduit));
     }
 };
+
+/// Typed into the box and left with Enter.
+inline void enter(QWidget &window, const char *name, const char *number)
+{
+    auto &box = control<NumberBox>(window, name);
+    box.setFocus();
+    box.selectAll();
+    QTest::keyClicks(&box, QString::fromLatin1(number));
+    QTest::keyClick(&box, Qt::Key_Return);
+}
+
+inline QString shown(QWidget &window, const char *name)
+{
+    return control<QLineEdit>(window, name).text();
+}

@@ -94,6 +94,24 @@ private Q_SLOTS:
         QCOMPARE(grid.cells().cellType(2, 1), SpreadModel::CellType::Combo);
         QCOMPARE(grid.cells().choices(2, 1), (QStringList{u"Rouge"_s, u"Bleu"_s}));
         QCOMPARE(grid.cells().cellType(2, 2), SpreadModel::CellType::Text);
+        // A typed beginning of a listed value stays what it is; Escape takes a pick back.
+        const auto editor = [&] {
+            grid.setActiveCell(2, 1);
+            grid.edit(grid.currentIndex());
+            return grid.findChild<QComboBox *>();
+        };
+        QComboBox *combo = editor();
+        combo->setEditText({});
+        QTest::keyClicks(combo->lineEdit(), u"rou"_s);
+        QTest::keyClick(combo->lineEdit(), Qt::Key_Return);
+        QCOMPARE(grid.text(2, 1), u"rou"_s);
+        QTRY_VERIFY(!grid.findChild<QComboBox *>());
+        combo = editor();
+        combo->setCurrentIndex(1);
+        Q_EMIT combo->activated(1);
+        QCOMPARE(grid.text(2, 1), u"Bleu"_s);
+        QTest::keyClick(combo, Qt::Key_Escape);
+        QCOMPARE(grid.text(2, 1), u"rou"_s);
         grid.setText(2, 1, u"Vert d'eau"_s);
         control<QPushButton>(*window, "cmdValider0").click();
         const QString count = u"SELECT count(*) FROM REF_EXTENSION WHERE idRef_Produit = 5"_s;

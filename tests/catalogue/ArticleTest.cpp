@@ -12,21 +12,6 @@ const QStringList lineBoxes = {u"txtNumSerie"_s, u"txtEan"_s,       u"txtMarque"
                                u"txtRefFour"_s,  u"txtCondition"_s, u"txtDimension"_s, u"txtLibre1"_s,
                                u"txtLibre2"_s,   u"txtLibre3"_s,    u"txtCompteA"_s,   u"txtCompteV"_s};
 
-/// Typed into the box and left with Enter.
-void enter(QWidget &window, const char *name, const char *number)
-{
-    auto &box = control<NumberBox>(window, name);
-    box.setFocus();
-    box.selectAll();
-    QTest::keyClicks(&box, QString::fromLatin1(number));
-    QTest::keyClick(&box, Qt::Key_Return);
-}
-
-QString shown(QWidget &window, const char *name)
-{
-    return control<QLineEdit>(window, name).text();
-}
-
 void chooseGroup(QWidget &window)
 {
     control<QComboBox>(window, "cbCategory").setCurrentIndex(1);
@@ -180,28 +165,36 @@ private Q_SLOTS:
         QCOMPARE(desk.column(u"sFrais"_s, 5) + u' ' + desk.column(u"sPrixRevient"_s, 5), u"9.00 130.00"_s);
     }
 
-    /// The focus goes on to the sale price, but not before the click that took it away has had its effect.
-    void clickAfterThePurchasePriceCounts()
+    /// A store that was locked when the number was taken gives the next product another one all the same.
+    void numberOfALockedStoreIsTakenOnce()
     {
         ArticleDesk desk;
+        desk.messages.answer = false;
+        Result opened;
+        const auto other = Store::open(desk.session.gsDbPath, opened);
+        QVERIFY(opened && other->execute(u"BEGIN IMMEDIATE"_s));
+        auto window = desk.open(1);
+        const int first = desk.session.glIdProduit;
+        QVERIFY(other->execute(u"COMMIT"_s));
+        chooseGroup(*window);
+        for (const QString &name : {u"Un"_s, u"Deux"_s}) {
+            control<QLineEdit>(*window, "txtNom_0").setText(name);
+            control<QPushButton>(*window, "cmdValider0").click();
+        }
+        QCOMPARE(desk.column(u"sNomFR"_s, first) + desk.column(u"sNomFR"_s, first + 1), u"UnDeux"_s);
+    }
+
+    /// Captions that a translation has made into something else name no columns.
+    void textsKeepTheirLanguageUnderAnyCaption()
+    {
+        ArticleDesk desk;
+        const QString texts = u"sNomFR || sNomEN || sObservationFR || sObservationES"_s;
+        const QString before = desk.column(texts, 5);
         auto window = desk.open(2, 5);
-        QVERIFY(QTest::qWaitForWindowActive(window.get()));
-        auto &tick = control<QCheckBox>(*window, "chControlStock");
-        const bool before = tick.isChecked();
-        control<NumberBox>(*window, "txtPrixAchat").setFocus();
-        tick.setFocus(Qt::MouseFocusReason); // as the press of a mouse button does first
-        QTest::mousePress(&tick, Qt::LeftButton, {}, QPoint(8, tick.height() / 2));
-        QTest::qWait(1); // whatever is queued has its turn while the button is down
-        QTest::mouseRelease(&tick, Qt::LeftButton, {}, QPoint(8, tick.height() / 2));
-        QCOMPARE(tick.isChecked(), !before);
-        QTRY_VERIFY(control<NumberBox>(*window, "txtPrixVente").hasFocus());
-        // The latch of a chain falls when the sale rate gains the focus.
-        enter(*window, "txtMarge", "2");
-        enter(*window, "txtFrais", "5");
-        const QString sale = shown(*window, "txtPrixVente");
-        control<QComboBox>(*window, "cbTvaV").setFocus();
-        enter(*window, "txtFrais", "50");
-        QVERIFY(shown(*window, "txtPrixVente") != sale);
+        control<QLabel>(*window, "lbNom_0").setText(u"EN"_s);
+        control<QTabWidget>(*window, "SSTab1").setTabText(0, u"Français"_s);
+        control<QPushButton>(*window, "cmdValider0").click();
+        QCOMPARE(desk.column(texts, 5), before);
     }
 
     /// What the boxes can't show the way it is stored must not be lost by looking at it.
@@ -238,6 +231,13 @@ private Q_SLOTS:
         QVERIFY(control<QPushButton>(*window, "cmdValider0").isEnabled()); // the loaded name has enabled it again
         const auto &attributes = control<Spread>(*window, "fpSpread1");
         QVERIFY(attributes.MaxRows() > 0);
+        // Rows that another program has changed are asked about here too.
+        desk.messages.answer = false;
+        desk.sql(u"UPDATE REF_EXTENSION SET sValeur = 'ailleurs' WHERE idRef_Produit = %1"_s.arg(product));
+        control<QPushButton>(*window, "cmdValider0").click();
+        QCOMPARE(desk.messages.boxes.size(), 1);
+        QVERIFY(desk.value(u"SELECT count(*)"_s + ofProduct + u" AND sValeur = 'ailleurs'"_s) != u"0"_s);
+        desk.messages.answer = true;
         for (int row = 1; row <= attributes.MaxRows(); ++row)
             QCOMPARE(attributes.text(2, row), QString());
         const QString before = desk.column(u"sNomFR"_s, product);
@@ -361,19 +361,6 @@ private Q_SLOTS:
         QCOMPARE(desk.value(u"SELECT Ref_Produit FROM PARAM"_s), u"1"_s);
         desk.sql(u"UPDATE PARAM SET Ref_Produit = NULL"_s);
         QVERIFY(shown(*desk.open(1), "txtRef_Article").startsWith(u"00001/"_s));
-    }
-
-    void escapeAsksOnceSomethingIsTyped()
-    {
-        ArticleDesk desk;
-        desk.messages.answer = false;
-        auto window = desk.open(2, 5);
-        control<QLineEdit>(*window, "txtMarque").setText(u"AUTRE"_s);
-        QTest::keyClick(window.get(), Qt::Key_Escape);
-        QVERIFY(window->isVisible() && desk.messages.boxes.size() == 1);
-        auto untouched = desk.open(2, 5);
-        QTest::keyClick(untouched.get(), Qt::Key_Escape);
-        QVERIFY(!untouched->isVisible());
     }
 };
 

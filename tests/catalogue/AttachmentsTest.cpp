@@ -135,6 +135,20 @@ private Q_SLOTS:
         QCOMPARE(desk.messages.boxes, QStringList());
     }
 
+    void anotherProgramsChangesStay()
+    {
+        Attached desk;
+        desk.about(true, 0);
+        frmDlgOpenDoc dialog(desk.session, nullptr);
+        desk.sql(u"DELETE FROM T_PRODUIT_IMAGE WHERE sImage = '/x/deux.jpg'"_s);
+        desk.sql(u"INSERT INTO T_PRODUIT_IMAGE VALUES (900, '/x/ailleurs.jpg', 0)"_s);
+        control<QListWidget>(dialog, "lstSelected").setCurrentRow(0);
+        control<QPushButton>(dialog, "cmdRetirer").click();
+        add(dialog, allPictures, u"a.png"_s);
+        validate(dialog);
+        QCOMPARE(desk.rows(), QString(u" /x/petite.jpg:1 /x/ailleurs.jpg:0 "_s + desk.folder + u"/a.png:0"_s));
+    }
+
     void controlsFollowTheUse()
     {
         Attached desk;
