@@ -1,6 +1,7 @@
 #include "tests/ftp/OpenedWindow.h"
 
 #include <QHeaderView>
+#include <QTimer>
 
 using namespace Qt::StringLiterals;
 
@@ -77,6 +78,23 @@ private Q_SLOTS:
         QTest::keyClick(&directory, Qt::Key_Return);
         QCOMPARE(desk.messages.boxes.size(), 1);
         QVERIFY(desk.messages.boxes.first().contains(u"images/nowhere"_s));
+    }
+
+    void localDeletionCanBeStopped()
+    {
+        FtpDeskTest desk;
+        desk.open();
+        const auto remove = [&desk] {
+            select(desk.local(), {u"images"_s});
+            desk.trigger("DeleteFiles");
+            return QFile::exists(desk.path(u"data/temp/images/a.gif"_s));
+        };
+        auto &abort = control<QPushButton>(*desk.window, "cmdAbort");
+        QTimer::singleShot(0, &abort, &QPushButton::click); // between two files
+        QVERIFY(remove());
+        QVERIFY(names(desk.local()).contains(u"images"_s) && !abort.isEnabled());
+        QVERIFY(!remove());
+        QVERIFY(!names(desk.local()).contains(u"images"_s));
     }
 
     void chosenRemoteFolderIsWorkedOn()
