@@ -26,7 +26,7 @@ enum Column { IdProduit = 1, Reference, Last = 15 };
 enum Mode { New = 1, Modify, Consult };
 
 constexpr int hiddenColumns[] = {IdProduit, 8, 11, 12, 14, 15};
-const QList<int> firstWidths = {60, 105, 235, 65, 95, 125, 105, 80, 105, 95, 80, 70, 80, 90, 90};
+const QList<int> firstWidths = {60, 105, 235, 65, 95, 160, 105, 80, 105, 110, 80, 70, 80, 90, 90};
 const QStringList headings = {QString(),       u"Référence"_s, u"Nom"_s,         u"Quantité"_s,  u"Creation Date"_s,
                               u"Famille"_s,    u"Catégorie"_s, u"Fournisseur"_s, u"Marque"_s,    u"Modèle"_s,
                               u"Prix Achat"_s, u"Marge"_s,     u"Prix vente"_s,  u"Sale date"_s, u"Buy date"_s};
