@@ -2,6 +2,7 @@
 #include "shell/ApplicationFolder.h"
 #include "shell/Main.h"
 #include "shell/MessageBoxes.h"
+#include "shell/HeldEnter.h"
 #include "shell/Skin.h"
 #include "shell/frmMain.h"
 
@@ -18,6 +19,7 @@ int main(int argc, char *argv[])
     QGuiApplication::setDesktopFileName(u"org.zelvantor.Zelvantor"_s);
     QApplication::setQuitOnLastWindowClosed(false);
     Skin::apply(application);
+    const HeldEnter heldEnter(application);
 
     SettingsStore settings(SettingsStore::userFolder());
     settings.clearUnfinished();

@@ -91,8 +91,6 @@ void Screen::keyPressEvent(QKeyEvent *event)
 {
     const bool isEnter = event->key() == Qt::Key_Return || event->key() == Qt::Key_Enter;
     QWidget *focus = focusWidget();
-    if (isEnter && event->isAutoRepeat())
-        return; // held down since the window before
     if (isEnter && (qobject_cast<QPushButton *>(focus) || qobject_cast<QToolButton *>(focus)))
         static_cast<QAbstractButton *>(focus)->click();
     else if (!isEnter || !qobject_cast<QAbstractItemView *>(focus))

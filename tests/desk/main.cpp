@@ -1,3 +1,4 @@
+#include "shell/HeldEnter.h"
 #include "shell/Skin.h"
 #include "tests/support/Suite.h"
 
@@ -8,5 +9,6 @@ int main(int argc, char *argv[])
     QApplication application(argc, argv);
     QApplication::setQuitOnLastWindowClosed(false);
     Skin::apply(application);
+    const HeldEnter heldEnter(application);
     return Suite::run();
 }
