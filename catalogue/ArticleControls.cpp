@@ -74,10 +74,7 @@ QStringList codes(const QStringList &captions)
 
 QStringList columnsOfNames(const QWidget &screen)
 {
-    QStringList captions;
-    for (int i = 0; i < Article::languages().size(); ++i)
-        captions << find<QLabel>(screen, u"lbNom_%1"_s.arg(i)).text();
-    return codes(captions).replaceInStrings(QRegularExpression(u"^"_s), u"sNom"_s);
+    return ArticleControls::languagesOfNames(screen).replaceInStrings(QRegularExpression(u"^"_s), u"sNom"_s);
 }
 
 QStringList columnsOfDescriptions(const QWidget &screen)
@@ -97,6 +94,14 @@ void showFromStart(QLineEdit &box, const QString &text)
 }
 
 } // namespace
+
+QStringList ArticleControls::languagesOfNames(const QWidget &screen)
+{
+    QStringList captions;
+    for (int i = 0; i < Article::languages().size(); ++i)
+        captions << find<QLabel>(screen, u"lbNom_%1"_s.arg(i)).text();
+    return codes(captions);
+}
 
 void ArticleControls::show(const Article &article, QWidget &screen)
 {

@@ -14,6 +14,8 @@ namespace ArticleControls {
 /// their boxes are the price block's.
 void show(const Article &article, QWidget &screen);
 void take(Article &article, const QWidget &screen);
+/// The language of each box for a name, in their order.
+QStringList languagesOfNames(const QWidget &screen);
 /// Empties every edit box of the screen.
 void clear(QWidget &screen);
 /// Adds the currency to the titles that end in an open bracket.

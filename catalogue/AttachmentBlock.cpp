@@ -5,17 +5,17 @@
 #include "catalogue/frmDlgOpenDoc.h"
 #include "platform/Desktop.h"
 #include "platform/Messages.h"
-#include "platform/Picture.h"
+#include "platform/PicturePreview.h"
 
-#include <QLabel>
 #include <QPushButton>
 
 using namespace Qt::StringLiterals;
 
-AttachmentBlock::AttachmentBlock(QDialog &screen, Session &session)
-    : QObject(&screen), m_screen(screen), m_session(session),
+AttachmentBlock::AttachmentBlock(QDialog &screen, Session &session, std::function<bool()> mayChange)
+    : QObject(&screen), m_screen(screen), m_session(session), m_mayChange(std::move(mayChange)),
       m_pictures(screen.findChild<AttachmentList *>(u"lstPicture"_s)),
-      m_documents(screen.findChild<AttachmentList *>(u"lstDoc"_s)), m_preview(screen.findChild<QLabel *>(u"imgPhoto"_s))
+      m_documents(screen.findChild<AttachmentList *>(u"lstDoc"_s)),
+      m_preview(screen.findChild<PicturePreview *>(u"imgPhoto"_s))
 {
     const auto button = [&screen](const QString &name) { return screen.findChild<QPushButton *>(name); };
     connect(button(u"cmdAddPict"_s), &QPushButton::clicked, this, [this] { edit(true, 0); });
@@ -49,6 +49,8 @@ void AttachmentBlock::AfficherDocs()
 
 void AttachmentBlock::edit(bool photos, int small)
 {
+    if (!m_mayChange())
+        return;
     m_session.gbPhotos = photos;
     m_session.giSmall = small;
     frmDlgOpenDoc(m_session, &m_screen).exec();
@@ -58,6 +60,8 @@ void AttachmentBlock::edit(bool photos, int small)
 /// As the button of full pictures, or of documents, would.
 void AttachmentBlock::add(bool photos, const QStringList &paths)
 {
+    if (!m_mayChange())
+        return;
     m_session.gbPhotos = photos;
     if (photos)
         m_session.giSmall = 0;
@@ -69,6 +73,5 @@ void AttachmentBlock::add(bool photos, const QStringList &paths)
 void AttachmentBlock::showPicture()
 {
     const QListWidgetItem *chosen = m_pictures->currentItem();
-    m_preview->setPixmap(chosen ? Picture::fitted(m_session.filePath(chosen->text()), m_preview->contentsRect().size())
-                                : QPixmap());
+    m_preview->showFile(chosen ? m_session.filePath(chosen->text()) : QString());
 }

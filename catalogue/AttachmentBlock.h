@@ -1,9 +1,11 @@
 #pragma once
 #include <QObject>
 
+#include <functional>
+
 class AttachmentList;
 class QDialog;
-class QLabel;
+class PicturePreview;
 struct Session;
 
 /// The pictures and documents on the product screen: their lists, the preview of the chosen picture, the buttons that
@@ -11,7 +13,8 @@ struct Session;
 class AttachmentBlock : public QObject {
     Q_OBJECT
 public:
-    AttachmentBlock(QDialog &screen, Session &session);
+    /// `mayChange` is asked before anything is stored.
+    AttachmentBlock(QDialog &screen, Session &session, std::function<bool()> mayChange);
 
     /// Refills the pictures, and the documents too when `gbPhotos` says that documents are at hand.
     void AfficherDocs();
@@ -23,7 +26,8 @@ private:
 
     QDialog &m_screen;
     Session &m_session;
+    std::function<bool()> m_mayChange;
     AttachmentList *m_pictures;
     AttachmentList *m_documents;
-    QLabel *m_preview;
+    PicturePreview *m_preview;
 };

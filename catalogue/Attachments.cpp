@@ -89,7 +89,7 @@ Result Attachments::AjouterDoc(Session &session, const QString &path)
     return insert(session, path);
 }
 
-Attachments::Failures Attachments::replace(Session &session, const QStringList &opened, QStringList paths)
+Attachments::Failures Attachments::replace(Session &session, QStringList &opened, QStringList paths)
 {
     StoreAction action(session.gCnn);
     if (!action.begun())
@@ -114,8 +114,12 @@ Attachments::Failures Attachments::replace(Session &session, const QStringList &
         if (const Result kept = insert(session, QString(path).replace(u"'"_s, u"''"_s)); !kept)
             failures.push_back({u"AjouterDoc"_s, kept});
     }
+    QStringList stored;
+    const Result read = AfficherDocs(session, stored);
     if (const Result ended = action.end(); !ended)
         return {{u"AjouterDoc"_s, ended}};
+    if (read)
+        opened = stored;
     session.gbRafraichirListe = true;
     return failures;
 }

@@ -6,15 +6,6 @@
 
 using namespace Qt::StringLiterals;
 
-namespace {
-
-QString setCounter(int number)
-{
-    return u"UPDATE PARAM SET Ref_Produit = "_s + QString::number(number);
-}
-
-} // namespace
-
 ProductNumber::Taken ProductNumber::ChercherNumProduit(Connection &gCnn)
 {
     Taken taken;
@@ -31,18 +22,12 @@ ProductNumber::Taken ProductNumber::ChercherNumProduit(Connection &gCnn)
             taken.failures.push_back(row.result());
     }
     if (taken.number) {
-        const Result moved = gCnn.execute(setCounter(*taken.number));
+        const Result moved = gCnn.execute(u"UPDATE PARAM SET Ref_Produit = "_s + QString::number(*taken.number));
         taken.isStored = bool(moved);
         if (!moved)
             taken.failures.push_back(moved);
     }
     return taken;
-}
-
-Result ProductNumber::catchUp(Connection &gCnn, int number)
-{
-    return gCnn.execute(setCounter(number) + u" WHERE Ref_Produit < "_s + QString::number(number)
-                        + u" OR Ref_Produit IS NULL"_s);
 }
 
 QString ProductNumber::reference(int number, const QDate &day)

@@ -19,9 +19,6 @@ struct Taken {
 /// Takes the next number; the counter moves at once. Past 32767 it reports an overflow and starts over at 1.
 Taken ChercherNumProduit(Connection &gCnn);
 
-/// Moves a counter that could not be moved when its number was taken. One that has gone on meanwhile stays.
-Result catchUp(Connection &gCnn, int number);
-
 /// "00042/202603" for number 42 on a day of March 2026.
 QString reference(int number, const QDate &day);
 

@@ -1,11 +1,10 @@
 #include "catalogue/ProductPaper.h"
 
-#include "catalogue/Article.h"
+#include "catalogue/ArticleControls.h"
 #include "platform/Spread.h"
 #include "shell/Session.h"
 
 #include <QComboBox>
-#include <QLabel>
 #include <QLineEdit>
 #include <QListWidget>
 #include <QPlainTextEdit>
@@ -42,10 +41,10 @@ LabelProduct ProductPaper::label(const QWidget &screen)
     product.Ean13 = line(screen, u"txtEan"_s);
     product.RefArticle = line(screen, u"txtRef_Article"_s);
     product.price = line(screen, u"txtPrixVente"_s);
-    for (int i = 0; i < Article::languages().size(); ++i) {
-        const QString code = screen.findChild<QLabel *>(u"lbNom_%1"_s.arg(i))->text();
-        product.names.insert(code, nameOf(screen, i));
-        product.descriptions.insert(code, descriptionOf(screen, i));
+    const QStringList codes = ArticleControls::languagesOfNames(screen);
+    for (int i = 0; i < codes.size(); ++i) {
+        product.names.insert(codes[i], nameOf(screen, i));
+        product.descriptions.insert(codes[i], descriptionOf(screen, i));
     }
     return product;
 }

@@ -45,7 +45,7 @@ frmArticle::frmArticle(Session &screenSession, QWidget *parent)
     m_prices = std::make_unique<PriceBlock>(*this);
     m_bands = std::make_unique<BandGrid>(*m_ui->fpSpread2);
     m_attributes = std::make_unique<AttributeGrid>(*m_ui->fpSpread1, session());
-    m_attachments = std::make_unique<AttachmentBlock>(*this, session());
+    m_attachments = std::make_unique<AttachmentBlock>(*this, session(), [this] { return hasNumber(); });
     m_prices->chain().bChargement = true;
     m_prices->chain().type(Field::Qte, 1);
     m_ui->txtSeuil->setNumber(1);
@@ -187,16 +187,34 @@ void frmArticle::openInMode()
     m_attachments->AfficherDocs();
 }
 
+void frmArticle::takeNumber()
+{
+    const auto reference = [this] { return ProductNumber::reference(session().glIdProduit, session().clock.today()); };
+    const bool isOwnReference = !m_ui->txtRef_Article->text().isEmpty() && m_ui->txtRef_Article->text() != reference();
+    const ProductNumber::Taken taken = ProductNumber::ChercherNumProduit(session().gCnn);
+    report(taken.failures, u"ChercherNumProduit"_s);
+    session().glIdProduit = taken.number.value_or(session().glIdProduit);
+    m_isNumberStored = taken.isStored || (!taken.number && taken.failures.empty());
+    if (!isOwnReference)
+        m_ui->txtRef_Article->setText(reference());
+}
+
+/// A store that was locked when the number was taken may have given it to another program since. Pictures and the row
+/// itself only go in under a number that is this product's alone.
+bool frmArticle::hasNumber()
+{
+    if (isMode(New) && !m_isNumberStored)
+        takeNumber();
+    return !isMode(New) || m_isNumberStored;
+}
+
 /// The next number, which is taken though the product may never be saved, and what follows from it.
 void frmArticle::startNewProduct()
 {
     m_prices->chain().bChargement = false;
-    const ProductNumber::Taken taken = ProductNumber::ChercherNumProduit(session().gCnn);
-    report(taken.failures, u"ChercherNumProduit"_s);
-    session().glIdProduit = taken.number.value_or(session().glIdProduit);
-    m_isNumberStored = taken.isStored || !taken.number;
+    m_ui->txtRef_Article->clear();
+    takeNumber();
     session().gbRafraichirListe = false;
-    m_ui->txtRef_Article->setText(ProductNumber::reference(session().glIdProduit, session().clock.today()));
     m_ui->txtDateCreat->setText(today());
     m_ui->txtDateModif->setText(today());
     m_ui->txtObservation_0->clear();

@@ -58,6 +58,8 @@ private:
     void AfficherArticle();
     void placeCombos();
     void AfficherPrix();
+    void takeNumber();
+    bool hasNumber();
     void Initialiser();
 
     void chooseCategory();

@@ -3,7 +3,6 @@
 #include "catalogue/AttributeGrid.h"
 #include "catalogue/BandGrid.h"
 #include "catalogue/PriceBlock.h"
-#include "catalogue/ProductNumber.h"
 #include "catalogue/ProductPaper.h"
 #include "catalogue/frmArticle.h"
 #include "platform/Messages.h"
@@ -42,7 +41,7 @@ void frmArticle::finishEntries()
 void frmArticle::save()
 {
     finishEntries();
-    if (!isComplete() || !mayOverwrite())
+    if (!isComplete() || !hasNumber() || !mayOverwrite())
         return;
     std::vector<Result> attributes;
     std::vector<Result> prices;
@@ -99,13 +98,8 @@ Result frmArticle::AjouterArticle()
     if (isMode(Consult))
         return {};
     Article article = takeArticle();
-    if (isMode(New)) {
-        // A store that was locked when the number was taken would give it to the next product too.
-        if (!m_isNumberStored)
-            if (Result moved = ProductNumber::catchUp(session().gCnn, session().glIdProduit); !moved)
-                return moved;
+    if (isMode(New))
         return session().gCnn.execute(article.insertStatement());
-    }
     article.setText(u"dDate_modification"_s, today());
     return session().gCnn.execute(article.updateStatement());
 }

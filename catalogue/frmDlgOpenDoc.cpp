@@ -3,7 +3,6 @@
 #include "catalogue/Attachments.h"
 #include "catalogue/FileTypes.h"
 #include "platform/Messages.h"
-#include "platform/Picture.h"
 #include "ui_frmDlgOpenDoc.h"
 
 #include <QApplication>
@@ -145,10 +144,7 @@ void frmDlgOpenDoc::enter(const QListWidgetItem *entry)
 
 void frmDlgOpenDoc::showPreview(const QListWidgetItem *entry)
 {
-    m_ui->imgApercu->clear();
-    if (!entry)
-        return;
-    m_ui->imgApercu->setPixmap(Picture::fitted(pathOf(*entry), m_ui->imgApercu->contentsRect().size()));
+    m_ui->imgApercu->showFile(entry ? pathOf(*entry) : QString());
 }
 
 void frmDlgOpenDoc::AfficherDocs()

@@ -176,12 +176,14 @@ private Q_SLOTS:
         auto window = desk.open(1);
         const int first = desk.session.glIdProduit;
         QVERIFY(other->execute(u"COMMIT"_s));
+        QVERIFY(other->execute(u"UPDATE PARAM SET Ref_Produit = %1"_s.arg(first))); // another program takes it
         chooseGroup(*window);
         for (const QString &name : {u"Un"_s, u"Deux"_s}) {
             control<QLineEdit>(*window, "txtNom_0").setText(name);
             control<QPushButton>(*window, "cmdValider0").click();
         }
-        QCOMPARE(desk.column(u"sNomFR"_s, first) + desk.column(u"sNomFR"_s, first + 1), u"UnDeux"_s);
+        QCOMPARE(desk.column(u"sNomFR"_s, first + 1) + desk.column(u"sNomFR"_s, first + 2), u"UnDeux"_s);
+        QVERIFY(desk.column(u"sRef"_s, first + 1).startsWith(u"%1/"_s.arg(first + 1, 5, 10, QLatin1Char('0'))));
     }
 
     /// Captions that a translation has made into something else name no columns.

@@ -147,6 +147,18 @@ private Q_SLOTS:
         add(dialog, allPictures, u"a.png"_s);
         validate(dialog);
         QCOMPARE(desk.rows(), QString(u" /x/petite.jpg:1 /x/ailleurs.jpg:0 "_s + desk.folder + u"/a.png:0"_s));
+        // What a validation has done before it failed is not another program's.
+        frmDlgOpenDoc again(desk.session, nullptr);
+        auto &list = control<QListWidget>(again, "lstSelected");
+        list.setCurrentRow(1); // a.png
+        control<QPushButton>(again, "cmdRetirer").click();
+        add(again, allPictures, u"l'été.png"_s);
+        validate(again);
+        QVERIFY(again.result() != QDialog::Accepted);
+        delete list.takeItem(1);
+        add(again, allPictures, u"a.png"_s);
+        validate(again);
+        QCOMPARE(desk.rows(), QString(u" /x/petite.jpg:1 /x/ailleurs.jpg:0 "_s + desk.folder + u"/a.png:0"_s));
     }
 
     void controlsFollowTheUse()
