@@ -8,6 +8,7 @@
 #include <QKeyEvent>
 #include <QMimeData>
 #include <QSignalBlocker>
+#include <QStyle>
 
 #include <algorithm>
 
@@ -113,7 +114,8 @@ void FtpPane::mark(int row, bool queued)
         return;
     const QSignalBlocker noEdit(this);
     const QIcon icon = iconOf(item->data(nameColumn, iconRole).toString());
-    item->setIcon(nameColumn, queued ? QIcon(icon.pixmap(iconSize(), QIcon::Disabled)) : icon);
+    const int size = style()->pixelMetric(QStyle::PM_SmallIconSize);
+    item->setIcon(nameColumn, queued ? QIcon(icon.pixmap(size, QIcon::Disabled)) : icon);
     for (int column = 0; column < columnCount(); ++column)
         item->setForeground(column, queued ? QBrush(QColor(0, 0, 255)) : QBrush());
 }

@@ -53,6 +53,7 @@ void frmFTP::done(int result)
     if (m_running > 0) {
         m_closing = true;
         m_desk.transfer.bCancel = true;
+        m_desk.isStopped = true;
         m_desk.Ftp1.Close();
         return;
     }
@@ -227,7 +228,7 @@ void frmFTP::wireDirectories()
         QObject::connect(box, &QComboBox::textActivated, this, chosen);
         // For a text of its history the box tells by itself.
         QObject::connect(box->lineEdit(), &QLineEdit::returnPressed, this, [box, chosen] {
-            if (box->findText(box->currentText(), Qt::MatchFixedString) < 0)
+            if (box->findText(box->currentText(), Qt::MatchFixedString | Qt::MatchCaseSensitive) < 0)
                 chosen(box->currentText());
         });
     };

@@ -223,7 +223,7 @@ void frmFTP::forgetRemoteDir(const QString &directory)
 {
     const QString folder = Panes::asFolder(directory, true);
     for (int i = m_ui->cmbRemoteDir->count() - 1; i >= 0; --i)
-        if (Panes::asFolder(m_ui->cmbRemoteDir->itemText(i), true) == folder)
+        if (Panes::asFolder(m_ui->cmbRemoteDir->itemText(i), true).startsWith(folder))
             m_ui->cmbRemoteDir->removeItem(i);
 }
 

@@ -91,6 +91,11 @@ private Q_SLOTS:
         };
         auto &abort = control<QPushButton>(*desk.window, "cmdAbort");
         QTimer::singleShot(0, &abort, &QPushButton::click); // between two files
+        select(desk.local(), {u"images"_s});
+        const auto icon = [&desk] { return desk.local().currentItem()->icon(0).pixmap(16).toImage(); };
+        const QImage plain = icon();
+        desk.local().mark(desk.local().currentRow(), true);
+        QVERIFY(!icon().isNull() && icon() != plain);
         QVERIFY(remove());
         QVERIFY(names(desk.local()).contains(u"images"_s) && !abort.isEnabled());
         QVERIFY(!remove());
