@@ -207,6 +207,7 @@ private Q_SLOTS:
         layout.fields = {{u"A"_s, u"absent"_s}};
         PrintObject text;
         text.place = {200, 200, 600, 100};
+        layout.font = u"DejaVu Sans"_s; // whatever the desktop writes in
         text.points = 12;
         const QString words =
             u"eins zwei drei vier fünf sechs sieben acht neun zehn elf zwölf dreizehn vierzehn\nfünfzehn"_s;
