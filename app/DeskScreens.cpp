@@ -9,7 +9,9 @@
 #include "shop/frmCatalogue.h"
 #include "shop/frmInfo.h"
 
+#include <QApplication>
 #include <QFileInfo>
+#include <QIcon>
 #include <QMdiArea>
 #include <QMdiSubWindow>
 #include <QScreen>
@@ -44,6 +46,8 @@ void DeskScreens::showProducts(QMdiArea *frame)
         auto *list = new frmListProduct(m_session, frame);
         list->setAttribute(Qt::WA_DeleteOnClose);
         m_products = list;
+        // The menu bar of a maximised list would cut the icon of a screen with double scale.
+        list->setWindowIcon(QIcon(QApplication::windowIcon().pixmap(QSize(16, 16), 1.0)));
         frame->addSubWindow(list);
         makeRoom(*frame->window(), list->size() + frame->window()->size() - frame->size());
         list->showMaximized();

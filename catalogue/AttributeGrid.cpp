@@ -4,6 +4,8 @@
 #include "platform/Spread.h"
 #include "shell/Session.h"
 
+#include <QHeaderView>
+
 using namespace Qt::StringLiterals;
 
 namespace {
@@ -23,7 +25,8 @@ AttributeGrid::AttributeGrid(Spread &fpSpread1, Session &session) : m_grid(fpSpr
     m_grid.setText(Valeur, 0, u"Valeur"_s);
     m_grid.setDeleteEmpties(true);
     m_grid.hideColumns(IdListe, Key);
-    m_grid.setColumnWidths({100, 120});
+    m_grid.setColumnWidths({95, 105});
+    m_grid.horizontalHeader()->setStretchLastSection(true);
 }
 
 void AttributeGrid::AfficherFParam()

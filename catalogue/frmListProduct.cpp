@@ -260,7 +260,7 @@ void frmListProduct::Dupliquer()
 
 void frmListProduct::supprimer()
 {
-    if (!m_session.messages->question(m_session.localisation.Traduire(u"MESSAGES"_s, u"100"_s), title))
+    if (!m_session.messages->riskyQuestion(m_session.localisation.Traduire(u"MESSAGES"_s, u"100"_s), title))
         return;
     report(ProductCopies::supprimer(m_session.gCnn, m_session.glIdProduit), u"cmdsupprimer"_s);
     Rechercher();

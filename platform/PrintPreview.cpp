@@ -36,7 +36,8 @@ PrintPreview::PrintPreview(PrintDocument document, const PreviewTexts &texts, Fi
     auto *layout = new QVBoxLayout(this);
     layout->setContentsMargins(0, 0, 0, 0);
     layout->addWidget(bar);
-    layout->addWidget(m_pages);
+    layout->setSpacing(0);
+    layout->addWidget(m_pages, 1);
     m_position->setObjectName(u"lbPage"_s);
     m_position->setMargin(6);
     connect(m_pages, &QPrintPreviewWidget::paintRequested, this,

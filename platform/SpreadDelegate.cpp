@@ -22,7 +22,8 @@ QComboBox *SpreadDelegate::createCombo(QWidget *parent, const QModelIndex &index
 {
     auto *combo = new QComboBox(parent);
     combo->setEditable(isFree);
-    combo->setCompleter(nullptr); // it would make a listed value of every typed beginning of one
+    if (isFree)
+        combo->setCompleter(nullptr); // it would make a listed value of every typed beginning of one
     combo->addItems(cellsOf(index).choices(index.column() + 1, index.row() + 1));
     // What is picked counts at once, not only when the cell is left.
     auto *self = const_cast<SpreadDelegate *>(this);

@@ -203,7 +203,7 @@ void DetailPane::remove()
     if (m_nRowSel < 1 || m_nRowSel > m_grid->MaxRows())
         return;
     const QString id = m_grid->text(Id, m_nRowSel);
-    if (!m_session.messages->question(u"Etes vous sûr de vouloir supprimer la ligne sélectionnée?"_s, title))
+    if (!m_session.messages->riskyQuestion(u"Etes vous sûr de vouloir supprimer la ligne sélectionnée?"_s, title))
         return;
     if (!id.isEmpty()) { // a changed row too: left in the store it would be back at the next opening
         if (const Result done = m_table.remove(m_session.gCnn, id); !done) {

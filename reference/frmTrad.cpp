@@ -40,6 +40,7 @@ frmTrad::frmTrad(Session &screenSession, QString Tag, const QString &caption, QW
     setProperty("Tag", m_section);
     setWindowTitle(caption);
     Afficher();
+    m_ui->fpSpread1->setActiveCell(Text, 1);
     session().gbValider = false;
 }
 

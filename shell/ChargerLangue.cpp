@@ -100,6 +100,15 @@ void giveTips(const QWidget &frm, const Texts &texts)
     }
 }
 
+/// A mnemonic parts two letters that are measured closer together than they are drawn.
+void makeRoomForMnemonics(const QWidget &frm)
+{
+    constexpr int kerning = 3;
+    for (QLabel *label : frm.findChildren<QLabel *>())
+        if (label->buddy() && !label->wordWrap())
+            label->setMinimumWidth(label->sizeHint().width() + kerning);
+}
+
 /// What a screen reader says of a box is what its label says to the eye.
 void nameByLabels(const QWidget &frm)
 {
@@ -127,4 +136,5 @@ void ChargerLangue(QWidget &frm, const Localisation &localisation)
     giveGrids(frm, texts);
     giveTips(frm, texts);
     nameByLabels(frm);
+    makeRoomForMnemonics(frm);
 }

@@ -45,7 +45,7 @@ frmCatalogue::frmCatalogue(Session &screenSession, QWidget *parent)
       m_folder(screenSession.applicationFolder + u"/temp"_s, m_report)
 {
     m_ui->setupUi(this);
-    m_ui->spControle->setSizes({600, 90}); // until the person moves the handle
+    m_ui->spControle->setSizes({600, 105}); // until the person moves the handle
     for (QTabWidget *tabs : {m_ui->SSTab1, m_ui->SSTab2})
         tabs->tabBar()->setAccessibleName(tabs->accessibleName());
     m_data = readShopData(session(), {}, m_report);
