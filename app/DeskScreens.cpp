@@ -9,14 +9,15 @@
 #include "shop/frmCatalogue.h"
 #include "shop/frmInfo.h"
 
-#include <QApplication>
 #include <QFileInfo>
-#include <QIcon>
 #include <QMdiArea>
 #include <QMdiSubWindow>
+#include <QMenuBar>
 #include <QScreen>
 
 namespace {
+
+constexpr QSize iconOfMenuBar(20, 20);
 
 /// The frame opens smaller than the list needs; it grows as far as the screen allows, and never shrinks.
 void makeRoom(QWidget &window, const QSize &wanted)
@@ -46,11 +47,12 @@ void DeskScreens::showProducts(QMdiArea *frame)
         auto *list = new frmListProduct(m_session, frame);
         list->setAttribute(Qt::WA_DeleteOnClose);
         m_products = list;
-        // The menu bar of a maximised list would cut the icon of a screen with double scale.
-        list->setWindowIcon(QIcon(QApplication::windowIcon().pixmap(QSize(16, 16), 1.0)));
         frame->addSubWindow(list);
         makeRoom(*frame->window(), list->size() + frame->window()->size() - frame->size());
         list->showMaximized();
+        // On a screen with double scale the menu bar would cut the icon that a maximised window puts into it.
+        if (auto *bar = frame->window()->findChild<QMenuBar *>(); bar && bar->cornerWidget(Qt::TopLeftCorner))
+            bar->cornerWidget(Qt::TopLeftCorner)->setFixedSize(iconOfMenuBar);
     }
     frame->setActiveSubWindow(qobject_cast<QMdiSubWindow *>(m_products->parentWidget()));
     m_products->setFocus();

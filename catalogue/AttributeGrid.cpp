@@ -4,8 +4,6 @@
 #include "platform/Spread.h"
 #include "shell/Session.h"
 
-#include <QHeaderView>
-
 using namespace Qt::StringLiterals;
 
 namespace {
@@ -25,8 +23,7 @@ AttributeGrid::AttributeGrid(Spread &fpSpread1, Session &session) : m_grid(fpSpr
     m_grid.setText(Valeur, 0, u"Valeur"_s);
     m_grid.setDeleteEmpties(true);
     m_grid.hideColumns(IdListe, Key);
-    m_grid.setColumnWidths({95, 105});
-    m_grid.horizontalHeader()->setStretchLastSection(true);
+    m_grid.setColumnWidths({95, 100, 72});
 }
 
 void AttributeGrid::AfficherFParam()
