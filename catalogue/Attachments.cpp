@@ -97,8 +97,9 @@ Attachments::Failures Attachments::replace(Session &session, QStringList &opened
     QStringList before;
     if (const Result read = AfficherDocs(session, before); !read)
         return {{u"AfficherDocs"_s, read}};
+    const QStringList wanted = paths;
     if (before != opened)
-        paths = merged(opened, paths, before);
+        paths = merged(opened, wanted, before);
     const bool onlyAdds = paths.mid(0, before.size()) == before; // what stays then keeps its place in the store
     if (const Result deleted = onlyAdds ? Result() : SupprimerDoc(session); !deleted)
         return {{u"SupprimerDoc"_s, deleted}}; // going on would write every path a second time
@@ -118,8 +119,11 @@ Attachments::Failures Attachments::replace(Session &session, QStringList &opened
     const Result read = AfficherDocs(session, stored);
     if (const Result ended = action.end(); !ended)
         return {{u"AjouterDoc"_s, ended}};
-    if (read)
-        opened = stored;
+    if (read) { // what somebody else has done stays unknown to the list, which goes on showing what it showed
+        const QStringList known = opened + stored;
+        opened = wanted;
+        opened.removeIf([&known](const QString &path) { return !known.contains(path); });
+    }
     session.gbRafraichirListe = true;
     return failures;
 }

@@ -26,7 +26,7 @@ Result AjouterDoc(Session &session, const QString &path);
 
 /// Stores what a person has made of the paths that were stored when the list was opened; what somebody else has added
 /// or taken out meanwhile stays so. A path that fails leaves the others done and, where it was stored before, stays
-/// stored; over a locked store nothing is touched. `opened` becomes what is stored then.
+/// stored; over a locked store nothing is touched. `opened` becomes what the next call needs for the same list.
 Failures replace(Session &session, QStringList &opened, QStringList paths);
 /// Adds files from the desktop behind the stored paths, each one once.
 Failures addDroppedFiles(Session &session, const QStringList &paths);

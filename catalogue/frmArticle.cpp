@@ -187,32 +187,40 @@ void frmArticle::openInMode()
     m_attachments->AfficherDocs();
 }
 
+/// The reference and the bar code made from it follow the number, unless a person has typed others.
 void frmArticle::takeNumber()
 {
-    const auto reference = [this] { return ProductNumber::reference(session().glIdProduit, session().clock.today()); };
-    const bool isOwnReference = !m_ui->txtRef_Article->text().isEmpty() && m_ui->txtRef_Article->text() != reference();
     const ProductNumber::Taken taken = ProductNumber::ChercherNumProduit(session().gCnn);
     report(taken.failures, u"ChercherNumProduit"_s);
     session().glIdProduit = taken.number.value_or(session().glIdProduit);
     m_isNumberStored = taken.isStored || (!taken.number && taken.failures.empty());
-    if (!isOwnReference)
-        m_ui->txtRef_Article->setText(reference());
+    const QString before =
+        std::exchange(m_givenReference, ProductNumber::reference(session().glIdProduit, session().clock.today()));
+    if (!before.isEmpty() && m_ui->txtRef_Article->text() != before)
+        return;
+    m_ui->txtRef_Article->setText(m_givenReference);
+    if (!before.isEmpty() && m_ui->txtEan->text() == Ean13::fromReference(before))
+        m_ui->txtEan->setText(Ean13::fromReference(m_givenReference));
 }
 
 /// A store that was locked when the number was taken may have given it to another program since. Pictures and the row
 /// itself only go in under a number that is this product's alone.
 bool frmArticle::hasNumber()
 {
-    if (isMode(New) && !m_isNumberStored)
-        takeNumber();
-    return !isMode(New) || m_isNumberStored;
+    if (!isMode(New) || m_isNumberStored)
+        return true;
+    const bool isUntouched = entries() == m_opened;
+    takeNumber();
+    if (isUntouched)
+        m_opened = entries();
+    return m_isNumberStored;
 }
 
 /// The next number, which is taken though the product may never be saved, and what follows from it.
 void frmArticle::startNewProduct()
 {
     m_prices->chain().bChargement = false;
-    m_ui->txtRef_Article->clear();
+    m_givenReference.clear();
     takeNumber();
     session().gbRafraichirListe = false;
     m_ui->txtDateCreat->setText(today());

@@ -91,6 +91,7 @@ private:
     std::unique_ptr<KeyCombo> m_colTvaV;
     BarcodeReader *m_reader;
     PrintEngine VPE1;
+    QString m_givenReference;     ///< of a new product, before a person types another
     bool m_isNumberStored = true; ///< whether the counter of the store stands at the number of the new product
     Entries m_opened;             ///< as they were when the screen was opened or last saved
     Stored m_stored;              ///< as it was when this screen last read or wrote it

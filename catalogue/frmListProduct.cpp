@@ -138,6 +138,7 @@ void frmListProduct::wireKeys()
         press(m_ui->fpSpread1, enter, m_ui->cmdModifier);
         auto *shortcut = new QShortcut(enter, m_ui->frFiltre);
         shortcut->setContext(Qt::WidgetWithChildrenShortcut);
+        shortcut->setAutoRepeat(false);
         connect(shortcut, &QShortcut::activated, this,
                 [this] { (m_ui->Cmdinitialiser->hasFocus() ? m_ui->Cmdinitialiser : m_ui->CmdRechPort)->click(); });
     }

@@ -89,8 +89,12 @@ bool Conflict::renameTarget(FtpDesk &desk, RemoteBrowser &remote, const QString 
     // A copy: the refresh of the pane lets other code run.
     const TransferVariables transfer = desk.transfer;
     desk.transfer.bCancel = false;
-    if (transfer.bStoring) // an earlier item of the queue may bear the name by now
-        std::ignore = remote.DoRemoteRefresh(transfer.sRemoteDir);
+    if (transfer.bStoring) { // an earlier item of the queue may bear the name by now
+        if (const Result listed = remote.DoRemoteRefresh(transfer.sRemoteDir); !listed) {
+            giveUp(desk, listed.text());
+            return true;
+        }
+    }
     // A drop on a folder's row goes where the local pane does not look.
     if (Panes::find(transfer.bStoring ? desk.remoteRows : desk.localRows, newName)
         || (!transfer.bStoring && QFileInfo::exists(transfer.sLocalDir + newName)))

@@ -105,7 +105,7 @@ void makeRoomForMnemonics(const QWidget &frm)
 {
     constexpr int kerning = 3;
     for (QLabel *label : frm.findChildren<QLabel *>())
-        if (label->buddy() && !label->wordWrap())
+        if (label->text().contains(u'&') && !label->wordWrap())
             label->setMinimumWidth(label->sizeHint().width() + kerning);
 }
 

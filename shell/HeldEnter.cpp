@@ -11,7 +11,8 @@ HeldEnter::HeldEnter(QApplication &application) : QObject(&application)
 
 bool HeldEnter::eventFilter(QObject *object, QEvent *event)
 {
-    if (event->type() != QEvent::KeyPress)
+    // A key comes to the window first, which passes it on to the widget.
+    if (event->type() != QEvent::KeyPress || !object->isWidgetType())
         return false;
     const auto &key = static_cast<const QKeyEvent &>(*event);
     const bool isEnter = key.key() == Qt::Key_Return || key.key() == Qt::Key_Enter;

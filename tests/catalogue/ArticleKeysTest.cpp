@@ -1,5 +1,8 @@
 #include "tests/catalogue/ArticleDesk.h"
 
+#include <QPlainTextEdit>
+#include <QWindow>
+
 using namespace Qt::StringLiterals;
 
 /// Keys, mouse and focus on the product screen.
@@ -18,11 +21,17 @@ private Q_SLOTS:
         QCOMPARE(control<QLineEdit>(*window, "txtEan").text().size(), 13);
         auto &reference = control<QLineEdit>(*window, "txtRef_Article");
         reference.setFocus();
-        QKeyEvent held(QEvent::KeyPress, Qt::Key_Return, Qt::NoModifier, QString(), true);
-        QApplication::sendEvent(&reference, &held);
+        const auto hold = [&window] { // as a key comes from the desktop
+            QTest::simulateEvent(window->windowHandle(), true, Qt::Key_Return, {}, u"\r"_s, true);
+            QApplication::processEvents();
+        };
+        hold();
         QVERIFY(control<QPushButton>(*window, "cmdValider0").isEnabled()); // a save would have disabled it
-        auto &description = control<QWidget>(*window, "txtObservation_0");
+        auto &description = control<QPlainTextEdit>(*window, "txtObservation_0");
+        description.setPlainText({});
         description.setFocus();
+        hold();
+        QCOMPARE(description.toPlainText(), u"\n"_s);
         QTest::keyClick(&description, Qt::Key_Tab, Qt::ControlModifier);
         QTRY_VERIFY(control<QWidget>(*window, "txtObservation_1").hasFocus());
     }

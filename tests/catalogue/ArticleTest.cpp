@@ -175,6 +175,8 @@ private Q_SLOTS:
         QVERIFY(opened && other->execute(u"BEGIN IMMEDIATE"_s));
         auto window = desk.open(1);
         const int first = desk.session.glIdProduit;
+        control<QToolButton>(*window, "cmdTrans").click();
+        const QString code = shown(*window, "txtEan");
         QVERIFY(other->execute(u"COMMIT"_s));
         QVERIFY(other->execute(u"UPDATE PARAM SET Ref_Produit = %1"_s.arg(first))); // another program takes it
         chooseGroup(*window);
@@ -183,6 +185,7 @@ private Q_SLOTS:
             control<QPushButton>(*window, "cmdValider0").click();
         }
         QCOMPARE(desk.column(u"sNomFR"_s, first + 1) + desk.column(u"sNomFR"_s, first + 2), u"UnDeux"_s);
+        QVERIFY(desk.column(u"sEan"_s, first + 1) != code);
         QVERIFY(desk.column(u"sRef"_s, first + 1).startsWith(u"%1/"_s.arg(first + 1, 5, 10, QLatin1Char('0'))));
     }
 

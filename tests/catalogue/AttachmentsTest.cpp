@@ -152,13 +152,15 @@ private Q_SLOTS:
         auto &list = control<QListWidget>(again, "lstSelected");
         list.setCurrentRow(1); // a.png
         control<QPushButton>(again, "cmdRetirer").click();
+        desk.sql(u"DELETE FROM T_PRODUIT_IMAGE WHERE sImage = '/x/ailleurs.jpg'"_s);
+        desk.sql(u"INSERT INTO T_PRODUIT_IMAGE VALUES (900, '/x/tard.jpg', 0)"_s);
         add(again, allPictures, u"l'été.png"_s);
         validate(again);
         QVERIFY(again.result() != QDialog::Accepted);
         delete list.takeItem(1);
         add(again, allPictures, u"a.png"_s);
         validate(again);
-        QCOMPARE(desk.rows(), QString(u" /x/petite.jpg:1 /x/ailleurs.jpg:0 "_s + desk.folder + u"/a.png:0"_s));
+        QCOMPARE(desk.rows(), QString(u" /x/petite.jpg:1 /x/tard.jpg:0 "_s + desk.folder + u"/a.png:0"_s));
     }
 
     void controlsFollowTheUse()
