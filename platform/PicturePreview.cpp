@@ -2,6 +2,13 @@
 
 #include "platform/Picture.h"
 
+PicturePreview::PicturePreview(QWidget *parent) : QLabel(parent)
+{
+    m_settled.setSingleShot(true);
+    m_settled.setInterval(100);
+    connect(&m_settled, &QTimer::timeout, this, &PicturePreview::fit);
+}
+
 void PicturePreview::showFile(const QString &path)
 {
     m_path = path;
@@ -11,7 +18,10 @@ void PicturePreview::showFile(const QString &path)
 void PicturePreview::resizeEvent(QResizeEvent *event)
 {
     QLabel::resizeEvent(event);
-    fit();
+    if (isVisible())
+        m_settled.start();
+    else
+        fit();
 }
 
 void PicturePreview::fit()

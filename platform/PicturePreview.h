@@ -1,11 +1,12 @@
 #pragma once
 #include <QLabel>
+#include <QTimer>
 
 /// Shows the picture of a file as large as its place allows, never stretched, and again when the place changes.
 class PicturePreview : public QLabel {
     Q_OBJECT
 public:
-    using QLabel::QLabel;
+    explicit PicturePreview(QWidget *parent = nullptr);
 
     /// An empty path, or a file that is no picture, shows nothing.
     void showFile(const QString &path);
@@ -20,4 +21,5 @@ private:
     void fit();
 
     QString m_path;
+    QTimer m_settled; ///< a large picture is not read anew at every step of a drag
 };
