@@ -196,9 +196,8 @@ void frmArticle::takeNumber()
     m_isNumberStored = taken.isStored || (!taken.number && taken.failures.empty());
     const QString before =
         std::exchange(m_givenReference, ProductNumber::reference(session().glIdProduit, session().clock.today()));
-    if (!before.isEmpty() && m_ui->txtRef_Article->text() != before)
-        return;
-    m_ui->txtRef_Article->setText(m_givenReference);
+    if (before.isEmpty() || m_ui->txtRef_Article->text() == before)
+        m_ui->txtRef_Article->setText(m_givenReference);
     if (!before.isEmpty() && m_ui->txtEan->text() == Ean13::fromReference(before))
         m_ui->txtEan->setText(Ean13::fromReference(m_givenReference));
 }

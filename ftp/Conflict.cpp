@@ -3,7 +3,7 @@
 #include <QFile>
 #include <QFileInfo>
 
-#include <tuple>
+#include <utility>
 
 using namespace Qt::StringLiterals;
 
@@ -15,6 +15,20 @@ void giveUp(FtpDesk &desk, const QString &cause)
     desk.view.AppendLog(cause + u"\r\n");
     desk.transfer.bCancel = true;
     desk.transfer.nApplyAll = 0;
+}
+
+bool isListed(const FtpDesk &desk, RemoteBrowser &remote, const QString &directory, const QString &name)
+{
+    return remote.DoRemoteRefresh(directory) && Panes::find(desk.remoteRows, name);
+}
+
+/// A listing that fails or can't be read empties the pane, and by its rows the rest of the queue is asked about.
+void showAgain(FtpDesk &desk, PaneRows rows)
+{
+    if (desk.Ftp1.State() != FtpSession::Connected)
+        return;
+    desk.remoteRows = std::move(rows);
+    desk.view.showRemote(desk.remoteRows);
 }
 
 } // namespace
@@ -89,22 +103,30 @@ bool Conflict::renameTarget(FtpDesk &desk, RemoteBrowser &remote, const QString 
     // A copy: the refresh of the pane lets other code run.
     const TransferVariables transfer = desk.transfer;
     desk.transfer.bCancel = false;
-    if (transfer.bStoring) { // an earlier item of the queue may bear the name by now
-        if (const Result listed = remote.DoRemoteRefresh(transfer.sRemoteDir); !listed) {
-            giveUp(desk, listed.text());
-            return true;
-        }
+    const QString &directory = transfer.sRemoteDir;
+    PaneRows rows = desk.remoteRows;
+    // An earlier item of the queue may bear the name by now.
+    if (const QString &target = transfer.sRemoteName; transfer.bStoring && !isListed(desk, remote, directory, target)) {
+        showAgain(desk, std::move(rows));
+        giveUp(desk, u"Not in the listing: "_s + directory + target);
+        return true;
     }
     // A drop on a folder's row goes where the local pane does not look.
     if (Panes::find(transfer.bStoring ? desk.remoteRows : desk.localRows, newName)
         || (!transfer.bStoring && QFileInfo::exists(transfer.sLocalDir + newName)))
         return false;
     if (transfer.bStoring) {
-        const QString &directory = transfer.sRemoteDir;
+        rows = desk.remoteRows;
         const Result renamed = desk.Ftp1.Rename(directory + transfer.sRemoteName, directory + newName);
         if (!renamed)
             giveUp(desk, renamed.text());
-        std::ignore = remote.DoRemoteRefresh(directory);
+        const QString &present = renamed ? newName : transfer.sRemoteName;
+        if (!isListed(desk, remote, directory, present)) {
+            for (PaneRow &row : rows)
+                if (row.text == transfer.sRemoteName)
+                    row.text = present;
+            showAgain(desk, std::move(rows));
+        }
     } else if (QFile target(transfer.sLocalDir + transfer.sLocalName); !target.rename(transfer.sLocalDir + newName)) {
         giveUp(desk, target.errorString() + u": "_s + newName);
     }

@@ -4,6 +4,7 @@
 
 #include <QDir>
 #include <QMap>
+#include <optional>
 
 /// A server in memory: folders are names that end in "/".
 class MemorySession : public QuietSession {
@@ -11,7 +12,8 @@ public:
     QMap<QString, QByteArray> files; ///< by full path
     QStringList log;
     QString directory = QStringLiteral("/");
-    Result refusal; ///< of the next login
+    Result refusal;                       ///< of the next login
+    std::optional<QString> spoiltListing; ///< what the next listing says; empty for one that fails
 
     QString CurrentDirectory() const override { return directory; }
     Result setCurrentDirectory(const QString &path) override
@@ -37,6 +39,10 @@ public:
     }
     Result List(QString &text, const QString &path) override
     {
+        if (const auto spoilt = std::exchange(spoiltListing, {})) {
+            text = *spoilt;
+            return text.isEmpty() ? Result(425, QStringLiteral("425 no data connection")) : Result();
+        }
         const QString below =
             QString(whole(path.isEmpty() ? directory : path) + u'/').replace(QStringLiteral("//"), QStringLiteral("/"));
         for (auto it = files.cbegin(); it != files.cend(); ++it) {

@@ -153,6 +153,33 @@ private Q_SLOTS:
         QCOMPARE(desk.server->files.value(u"/index.old"_s), QByteArray("page"));
     }
 
+    /// Without a listing nobody knows which names are taken: nothing is renamed, and the rest of the queue is asked.
+    void renameNeedsAListing()
+    {
+        for (const QString &spoilt : {QString(), u"what is this\r\n"_s}) {
+            FtpDeskTest desk;
+            desk.openConnected();
+            desk.server->files.insert({{u"/panier.txt"_s, "0123"}, {u"/index.old"_s, "precious"}});
+            const auto before = desk.server->files;
+            desk.remote().setFocus();
+            desk.trigger("Refresh");
+            Visitor visitor;
+            visitor.whenShown(u"frmTransfer"_s,
+                              [](QWidget &dialog) { control<QPushButton>(dialog, "cmdRename").click(); });
+            visitor.whenShown(u"frmRename"_s, [&desk, &spoilt](QWidget &dialog) {
+                desk.server->spoiltListing = spoilt;
+                control<QLineEdit>(dialog, "txtRename").setText(u"index.old"_s);
+                control<QPushButton>(dialog, "cmdOK").click();
+            });
+            visitor.whenShown(u"frmTransfer"_s,
+                              [](QWidget &dialog) { control<QPushButton>(dialog, "cmdCancel").click(); });
+            select(desk.local(), {u"index.htm"_s, u"panier.txt"_s});
+            desk.send();
+            QCOMPARE(visitor.waiting(), QStringList());
+            QCOMPARE(desk.server->files, before);
+        }
+    }
+
     void commandsFollowThePane()
     {
         FtpDeskTest desk;
