@@ -1,8 +1,8 @@
 #include "app/DeskScreens.h"
 #include "shell/ApplicationFolder.h"
+#include "shell/HeldEnter.h"
 #include "shell/Main.h"
 #include "shell/MessageBoxes.h"
-#include "shell/HeldEnter.h"
 #include "shell/Skin.h"
 #include "shell/frmMain.h"
 

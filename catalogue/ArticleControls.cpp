@@ -9,7 +9,6 @@
 #include <QGroupBox>
 #include <QLabel>
 #include <QListWidget>
-#include <QRegularExpression>
 #include <QSet>
 #include <QTabWidget>
 
@@ -72,18 +71,13 @@ QStringList codes(const QStringList &captions)
     return known == QSet<QString>(languages.begin(), languages.end()) ? captions : languages;
 }
 
-QStringList columnsOfNames(const QWidget &screen)
-{
-    return ArticleControls::languagesOfNames(screen).replaceInStrings(QRegularExpression(u"^"_s), u"sNom"_s);
-}
-
-QStringList columnsOfDescriptions(const QWidget &screen)
+QStringList languagesOfDescriptions(const QWidget &screen)
 {
     const auto &tabs = find<QTabWidget>(screen, u"SSTab1"_s);
     QStringList captions;
     for (int i = 0; i < tabs.count(); ++i)
         captions << tabs.tabText(i);
-    return codes(captions).replaceInStrings(QRegularExpression(u"^"_s), u"sObservation"_s);
+    return codes(captions);
 }
 
 /// A text longer than its box shows its beginning.
@@ -112,13 +106,13 @@ void ArticleControls::show(const Article &article, QWidget &screen)
         if (article.has(pair.column))
             find<NumberBox>(screen, pair.control).showStored(article.text(pair.column));
     }
-    const QStringList names = columnsOfNames(screen);
-    const QStringList descriptions = columnsOfDescriptions(screen);
+    const QStringList names = languagesOfNames(screen);
+    const QStringList descriptions = languagesOfDescriptions(screen);
     for (int i = 0; i < Article::languages().size(); ++i) {
-        if (article.has(names[i]))
-            showFromStart(find<QLineEdit>(screen, u"txtNom_%1"_s.arg(i)), article.text(names[i]));
-        if (article.has(descriptions[i]))
-            find<TextBox>(screen, u"txtObservation_%1"_s.arg(i)).showText(article.text(descriptions[i]));
+        if (const QString column = u"sNom"_s + names[i]; article.has(column))
+            showFromStart(find<QLineEdit>(screen, u"txtNom_%1"_s.arg(i)), article.text(column));
+        if (const QString column = u"sObservation"_s + descriptions[i]; article.has(column))
+            find<TextBox>(screen, u"txtObservation_%1"_s.arg(i)).showText(article.text(column));
     }
     for (const Pair &pair : ticks())
         if (article.has(pair.column))
@@ -131,11 +125,12 @@ void ArticleControls::take(Article &article, const QWidget &screen)
         article.setText(pair.column, oneLine(find<QLineEdit>(screen, pair.control).text()));
     for (const Pair &pair : numbers())
         article.setText(pair.column, find<NumberBox>(screen, pair.control).text());
-    const QStringList names = columnsOfNames(screen);
-    const QStringList descriptions = columnsOfDescriptions(screen);
+    const QStringList names = languagesOfNames(screen);
+    const QStringList descriptions = languagesOfDescriptions(screen);
     for (int i = 0; i < Article::languages().size(); ++i) {
-        article.setText(names[i], oneLine(find<QLineEdit>(screen, u"txtNom_%1"_s.arg(i)).text()));
-        article.setText(descriptions[i], find<TextBox>(screen, u"txtObservation_%1"_s.arg(i)).text());
+        article.setText(u"sNom"_s + names[i], oneLine(find<QLineEdit>(screen, u"txtNom_%1"_s.arg(i)).text()));
+        article.setText(u"sObservation"_s + descriptions[i],
+                        find<TextBox>(screen, u"txtObservation_%1"_s.arg(i)).text());
     }
     for (const Pair &pair : ticks())
         article.setNumber(pair.column, find<QCheckBox>(screen, pair.control).isChecked() ? 1 : 0);

@@ -39,11 +39,16 @@ QString apostropheText(const Session &session, const QString &path)
 }
 
 /// The stored paths with the changes of one person and those of another.
-QStringList merged(const QStringList &opened, const QStringList &wanted, QStringList stored)
+QStringList merged(QStringList opened, const QStringList &wanted, QStringList stored)
 {
-    stored.removeIf([&](const QString &path) { return opened.contains(path) && !wanted.contains(path); });
+    QStringList added;
     for (const QString &path : wanted)
-        if (!opened.contains(path) && !stored.contains(path))
+        if (!opened.removeOne(path))
+            added << path;
+    for (const QString &path : opened) // what is left of them was taken out
+        stored.removeOne(path);
+    for (const QString &path : added)
+        if (!stored.contains(path))
             stored << path;
     return stored;
 }

@@ -37,7 +37,6 @@ private:
     struct Stored {
         std::optional<Article> article;
         QStringList rows;
-        bool operator==(const Stored &) const = default;
     };
 
     /// What stands in the controls.
