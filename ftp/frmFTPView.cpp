@@ -92,7 +92,7 @@ void frmFTP::dropped(FtpPane &target, FtpPane *source)
     }
     const PaneRows &rows = store ? m_desk.remoteRows : m_desk.localRows;
     QString directory = Panes::asFolder(store ? m_desk.remoteDir : m_desk.localDir, store);
-    if (const PaneRow *folder = Panes::at(rows, target.dropRow()); folder && Panes::isFolder(folder->icon))
+    if (const PaneRow *folder = Panes::at(rows, target.dropRow()))
         directory += folder->text;
     const QString count = QString::number(m_queue.items().size());
     const bool go = isConnected() && !m_queue.items().empty()
